@@ -1,0 +1,38 @@
+# Selects the OpenWBEM provider API and the platform libraries the module links:
+# the in-tree stand-ins by default, or a real installation when its location is given.
+# Either way the rest of the build sees two targets: ras::openwbem and ras::platform.
+
+if(OPENWBEM_PREFIX)
+  set(_ow_libs "")
+  foreach(lib openwbem owprovider owcppprovifc)
+    find_library(OW_LIB_${lib} ${lib} PATHS ${OPENWBEM_PREFIX}/lib ${OPENWBEM_PREFIX}/lib64
+                 NO_DEFAULT_PATH REQUIRED)
+    list(APPEND _ow_libs ${OW_LIB_${lib}})
+  endforeach()
+  add_library(ras_openwbem INTERFACE)
+  target_include_directories(ras_openwbem SYSTEM INTERFACE ${OPENWBEM_PREFIX}/include/openwbem)
+  target_link_libraries(ras_openwbem INTERFACE ${_ow_libs})
+  set(RAS_OPENWBEM_STANDIN OFF)
+else()
+  add_subdirectory(owapi)
+  add_library(ras_openwbem INTERFACE)
+  target_link_libraries(ras_openwbem INTERFACE openwbem)
+  set(RAS_OPENWBEM_STANDIN ON)
+endif()
+add_library(ras::openwbem ALIAS ras_openwbem)
+
+# The platform library headers are ours in both cases: the appliance ships no headers.
+if(QVL_LIBDIR)
+  find_library(QVL_LIB_SHARED QvlShared PATHS ${QVL_LIBDIR} NO_DEFAULT_PATH REQUIRED)
+  find_library(QVL_LIB_TORAPI TORapi PATHS ${QVL_LIBDIR} NO_DEFAULT_PATH REQUIRED)
+  add_library(ras_platform INTERFACE)
+  target_include_directories(ras_platform INTERFACE ${CMAKE_SOURCE_DIR}/platform/include)
+  target_link_libraries(ras_platform INTERFACE ${QVL_LIB_SHARED} ${QVL_LIB_TORAPI})
+  set(RAS_PLATFORM_STANDIN OFF)
+else()
+  add_subdirectory(platform)
+  add_library(ras_platform INTERFACE)
+  target_link_libraries(ras_platform INTERFACE QvlShared TORapi)
+  set(RAS_PLATFORM_STANDIN ON)
+endif()
+add_library(ras::platform ALIAS ras_platform)
