@@ -1,0 +1,15 @@
+# Registers GoogleTest binaries whose tests run inside the simulated appliance.
+#
+# ras_add_appliance_test(TARGET) links TARGET with the appliance harness (the
+# ApplianceTest fixture and gtest_main) and has CTest list and run each of its tests
+# through "appliance/run --", every test in a fresh appliance.
+
+set(RAS_APPLIANCE_RUN ${CMAKE_CURRENT_LIST_DIR}/../appliance/run)
+cmake_path(NORMAL_PATH RAS_APPLIANCE_RUN)
+
+function(ras_add_appliance_test TARGET)
+  target_link_libraries(${TARGET} PRIVATE appliance_harness GTest::gtest_main)
+  set_target_properties(${TARGET} PROPERTIES CROSSCOMPILING_EMULATOR "${RAS_APPLIANCE_RUN};--")
+  gtest_discover_tests(${TARGET} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+                       PROPERTIES LABELS appliance)
+endfunction()
