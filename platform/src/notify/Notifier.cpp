@@ -65,7 +65,7 @@ int Notifier::start(const std::string& storePath, const EntryKey& key,
 bool Notifier::stop(int handle) {
   Lock lock(mutex_);
   if (subscriptions_.erase(handle) == 0) return false;
-  if (!tOnWatcher) delivered_.wait(lock, [&] { return delivering_.count(handle) == 0; });
+  if (!tOnWatcher) progress_.wait(lock, [&] { return delivering_.count(handle) == 0; });
   if (subscriptions_.empty()) retireThread(lock);
   return true;
 }
@@ -77,7 +77,9 @@ bool Notifier::sync() {
   if (subscriptions_.empty()) return true;
   const std::uint64_t request = ++requested_;
   waiter_.wake();
-  scanned_.wait(lock, [&] { return completed_ >= request || subscriptions_.empty(); });
+  progress_.wait(lock, [&] {
+    return (completed_ >= request || subscriptions_.empty()) && delivering_.empty();
+  });
   return true;
 }
 
@@ -89,7 +91,7 @@ void Notifier::ensureThread(Lock&) {
 void Notifier::retireThread(Lock& lock) {
   ++generation_;
   waiter_.wake();
-  scanned_.notify_all();
+  progress_.notify_all();
   if (!thread_.joinable()) return;
   if (tOnWatcher) {
     retired_.push_back(std::move(thread_));
@@ -124,7 +126,7 @@ void Notifier::run(std::uint64_t generation) {
     lock.lock();
     if (generation_ != generation) break;
     completed_ = std::max(completed_, target);
-    scanned_.notify_all();
+    progress_.notify_all();
     if (requested_ != target) continue;
     lock.unlock();
     waiter_.wait(kPollInterval);
@@ -168,7 +170,7 @@ void Notifier::deliverIfChanged(std::uint64_t generation, int handle,
   callback(context);
   lock.lock();
   delivering_.erase(running);
-  delivered_.notify_all();
+  progress_.notify_all();
 }
 
 }  // namespace qvl

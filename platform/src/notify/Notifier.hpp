@@ -55,8 +55,7 @@ class Notifier {
   void joinRetired(Lock& lock);
 
   std::mutex mutex_;
-  std::condition_variable delivered_;  // a callback returned
-  std::condition_variable scanned_;    // a scan finished
+  std::condition_variable progress_;  // a callback returned, a scan finished or a thread ended
   std::map<int, Subscription> subscriptions_;
   int nextHandle_ = 0;
   std::multiset<int> delivering_;  // handles whose callback is running

@@ -6,10 +6,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
 
 namespace qvl {
 namespace {
@@ -19,6 +18,7 @@ constexpr char kDefaultStorePath[] = "/var/lib/qvl/registry";
 constexpr char kLockSuffix[] = ".lock";
 constexpr char kTempSuffix[] = ".tmpXXXXXX";
 constexpr mode_t kDefaultMode = 0644;
+constexpr std::size_t kReadChunk = 4096;
 
 // Holds an exclusive flock on the lock file beside the store for its lifetime.
 class StoreLock {
@@ -90,12 +90,19 @@ std::string storePathFromEnvironment() {
 }
 
 std::optional<std::string> readStore(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return std::nullopt;
-  std::ostringstream text;
-  text << in.rdbuf();
-  if (in.bad()) return std::nullopt;
-  return text.str();
+  const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (fd < 0) return std::nullopt;
+  std::string text;
+  std::array<char, kReadChunk> chunk;
+  ssize_t n = 0;
+  while ((n = ::read(fd, chunk.data(), chunk.size())) != 0) {
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) break;
+    text.append(chunk.data(), static_cast<std::size_t>(n));
+  }
+  ::close(fd);
+  if (n < 0) return std::nullopt;
+  return text;
 }
 
 Status editStore(const std::string& path, const std::function<Status(RegistryText&)>& edit) {
