@@ -67,7 +67,9 @@ TEST(Qvlreg, CommandsReadAndChangeTheStore) {
     argv.insert(argv.end(), row.args.begin(), row.args.end());
     const qvltest::RunResult result = qvltest::runProgram(argv);
     EXPECT_EQ(row.exitCode, result.exitCode);
-    if (row.out != nullptr) EXPECT_EQ(row.out, result.out);
+    if (row.out != nullptr) {
+      EXPECT_EQ(row.out, result.out);
+    }
   }
 }
 
