@@ -1,0 +1,12 @@
+// Impact warnings: an "ImpactWarning" qualifier attached to a property read while a dial
+// session is up, telling the client that a change waits for the next session.
+#ifndef ZEPH_IMPACTWARNING_H
+#define ZEPH_IMPACTWARNING_H
+
+#include "OW_Array.hpp"
+#include "OW_CIMFwd.hpp"
+
+// Appends zero, one or two "ImpactWarning" qualifiers, from the session globals.
+void ShowWarningMessage(OpenWBEM::Array<OpenWBEM::CIMQualifier>& qualifiers);
+
+#endif

@@ -1,0 +1,22 @@
+// Module-wide state: the CIMOM's logger and handle kept by initialize, and the session
+// flags that the PPP connection-status reader writes and the impact warnings read.
+#ifndef ZEPH_MODULEGLOBALS_H
+#define ZEPH_MODULEGLOBALS_H
+
+#include <string>
+
+#include "OW_CIMOMHandleIFC.hpp"
+#include "OW_IntrusiveReference.hpp"
+#include "OW_Logger.hpp"
+
+extern OpenWBEM::IntrusiveReference<OpenWBEM::Logger> logger;
+extern OpenWBEM::IntrusiveReference<OpenWBEM::CIMOMHandleIFC> hdl;
+
+// True after the last connection-status reading found the dial-in link up.
+extern bool ConnectionStatus;
+// True after the last connection-status reading found the dial-out link up.
+extern bool DialOutConnectionStatus;
+// Name of the PPP endpoint ("DialInEndpoint" or "DialOutEndpoint") read last.
+extern std::string check_key;
+
+#endif

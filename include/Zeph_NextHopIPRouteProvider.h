@@ -1,0 +1,36 @@
+// Instance provider of Zeph_NextHopIPRoute: the provider template over the class's traits, with the
+// class's named conversion and lookup helpers.
+#ifndef ZEPH_NEXTHOPIPROUTEPROVIDER_H
+#define ZEPH_NEXTHOPIPROUTEPROVIDER_H
+
+#include "Zeph_ClassNames.h"
+#include "Zeph_InstanceProvider.h"
+#include "Zeph_NextHopIPRoute.h"
+
+struct Zeph_NextHopIPRouteTraits
+    : ras::ClassTraits<Zeph_NextHopIPRoute, Zeph_NextHopIPRouteInstanceManager> {
+  static constexpr const char* kClass = Zeph_NextHopIPRouteName;
+  static constexpr const char* kSource = "../src/Zeph_NextHopIPRouteProvider";
+  static constexpr auto kCreate = &Manager::createZeph_NextHopIPRoute;
+  static constexpr auto kDestroy = &Manager::destroyZeph_NextHopIPRoute;
+  static const ras::PropertyTable<Wrapper>& properties();
+};
+
+extern template class ras::InstanceProvider<Zeph_NextHopIPRouteTraits>;
+
+class Zeph_NextHopIPRouteProvider : public ras::InstanceProvider<Zeph_NextHopIPRouteTraits> {
+ public:
+  using InstanceProvider::modifyInstance;
+
+  void Zeph_NextHopIPRouteToCIMInstance(const OpenWBEM::String& ns,
+                                        const Zeph_NextHopIPRoute& object,
+                                        OpenWBEM::CIMInstance& instance) const;
+  void Zeph_NextHopIPRouteToCIMObjectPath(const Zeph_NextHopIPRoute& object,
+                                          OpenWBEM::CIMObjectPath& path) const;
+  Zeph_NextHopIPRoute* getZeph_NextHopIPRouteWithCIMObjectPath(
+      const OpenWBEM::CIMObjectPath& path) const;
+  Zeph_NextHopIPRoute* getZeph_NextHopIPRouteWithCIMInstance(
+      const OpenWBEM::CIMInstance& instance) const;
+};
+
+#endif

@@ -1,0 +1,37 @@
+// Instance provider of Zeph_PPPProtocolEndpoint: the provider template over the class's traits,
+// with the class's named conversion and lookup helpers.
+#ifndef ZEPH_PPPPROTOCOLENDPOINTPROVIDER_H
+#define ZEPH_PPPPROTOCOLENDPOINTPROVIDER_H
+
+#include "Zeph_ClassNames.h"
+#include "Zeph_InstanceProvider.h"
+#include "Zeph_PPPProtocolEndpoint.h"
+
+struct Zeph_PPPProtocolEndpointTraits
+    : ras::ClassTraits<Zeph_PPPProtocolEndpoint, Zeph_PPPProtocolEndpointInstanceManager> {
+  static constexpr const char* kClass = Zeph_PPPProtocolEndpointName;
+  static constexpr const char* kSource = "../src/Zeph_PPPProtocolEndpointProvider";
+  static constexpr auto kCreate = &Manager::createZeph_PPPProtocolEndpoint;
+  static constexpr auto kDestroy = &Manager::destroyZeph_PPPProtocolEndpoint;
+  static const ras::PropertyTable<Wrapper>& properties();
+};
+
+extern template class ras::InstanceProvider<Zeph_PPPProtocolEndpointTraits>;
+
+class Zeph_PPPProtocolEndpointProvider
+    : public ras::InstanceProvider<Zeph_PPPProtocolEndpointTraits> {
+ public:
+  using InstanceProvider::modifyInstance;
+
+  void Zeph_PPPProtocolEndpointToCIMInstance(const OpenWBEM::String& ns,
+                                             const Zeph_PPPProtocolEndpoint& object,
+                                             OpenWBEM::CIMInstance& instance) const;
+  void Zeph_PPPProtocolEndpointToCIMObjectPath(const Zeph_PPPProtocolEndpoint& object,
+                                               OpenWBEM::CIMObjectPath& path) const;
+  Zeph_PPPProtocolEndpoint* getZeph_PPPProtocolEndpointWithCIMObjectPath(
+      const OpenWBEM::CIMObjectPath& path) const;
+  Zeph_PPPProtocolEndpoint* getZeph_PPPProtocolEndpointWithCIMInstance(
+      const OpenWBEM::CIMInstance& instance) const;
+};
+
+#endif

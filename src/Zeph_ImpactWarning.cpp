@@ -1,0 +1,35 @@
+// Impact warnings and the session globals they are computed from.
+#include "Zeph_ImpactWarning.h"
+
+#include "OW_CIMQualifier.hpp"
+#include "OW_CIMValue.hpp"
+#include "Zeph_ModuleGlobals.h"
+
+bool ConnectionStatus = false;
+bool DialOutConnectionStatus = false;
+std::string check_key;
+
+namespace {
+
+constexpr char kImpactWarning[] = "ImpactWarning";
+constexpr char kDialInEndpoint[] = "DialInEndpoint";
+constexpr char kDialOutEndpoint[] = "DialOutEndpoint";
+constexpr char kDialInWarning[] =
+    "Dial-In Session is in Progress.Change will take effect for Next Dial-In Session";
+constexpr char kDialOutWarning[] =
+    "Dial-Out Session is in Progress.Change will take effect for Next Dial-Out Session";
+
+void appendWarning(OpenWBEM::Array<OpenWBEM::CIMQualifier>& qualifiers, const char* text) {
+  OpenWBEM::CIMQualifier warning(kImpactWarning);
+  warning.setValue(OpenWBEM::CIMValue(OpenWBEM::String(text)));
+  qualifiers.push_back(warning);
+}
+
+}  // namespace
+
+void ShowWarningMessage(OpenWBEM::Array<OpenWBEM::CIMQualifier>& qualifiers) {
+  if (ConnectionStatus && check_key == kDialInEndpoint) appendWarning(qualifiers, kDialInWarning);
+  if (DialOutConnectionStatus && check_key == kDialOutEndpoint) {
+    appendWarning(qualifiers, kDialOutWarning);
+  }
+}

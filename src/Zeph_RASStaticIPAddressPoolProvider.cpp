@@ -1,0 +1,41 @@
+// Property table of Zeph_RASStaticIPAddressPool and the named helpers of its provider.
+#include "Zeph_RASStaticIPAddressPoolProvider.h"
+
+namespace {
+using X = Zeph_RASStaticIPAddressPool;
+using Row = ras::Rows<X>;
+}  // namespace
+
+const ras::PropertyTable<X>& Zeph_RASStaticIPAddressPoolTraits::properties() {
+  static const ras::PropertyTable<X> table = {
+      Row::key("InstanceID", &X::getInstanceID),
+      Row::readonly("ElementName", &X::getElementName),
+      Row::writable("ipAddr", &X::getipAddr, &X::setipAddr, ras::maxLength(32)),
+      Row::readonly("netMask", &X::getnetMask),
+      Row::writable("useStaticPool", &X::getuseStaticPool, &X::setuseStaticPool),
+      Row::readonly("Caption", &X::getCaption),
+      Row::readonly("Description", &X::getDescription),
+      Row::readonly("StartAddress", &X::getStartAddress),
+      Row::readonly("EndAddress", &X::getEndAddress),
+      Row::readonly("AddressType", &X::getAddressType)};
+  return table;
+}
+
+template class ras::InstanceProvider<Zeph_RASStaticIPAddressPoolTraits>;
+
+void Zeph_RASStaticIPAddressPoolProvider::Zeph_RASStaticIPAddressPoolToCIMInstance(
+    const OpenWBEM::String& ns, const X& object, OpenWBEM::CIMInstance& instance) const {
+  toInstance(ns, object, instance);
+}
+void Zeph_RASStaticIPAddressPoolProvider::Zeph_RASStaticIPAddressPoolToCIMObjectPath(
+    const X& object, OpenWBEM::CIMObjectPath& path) const {
+  toObjectPath(object, path);
+}
+X* Zeph_RASStaticIPAddressPoolProvider::getZeph_RASStaticIPAddressPoolWithCIMObjectPath(
+    const OpenWBEM::CIMObjectPath& path) const {
+  return lookup(path);
+}
+X* Zeph_RASStaticIPAddressPoolProvider::getZeph_RASStaticIPAddressPoolWithCIMInstance(
+    const OpenWBEM::CIMInstance& instance) const {
+  return lookup(instance);
+}
