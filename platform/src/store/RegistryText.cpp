@@ -97,12 +97,6 @@ std::vector<RegistryText::Line> RegistryText::classify() const {
   return out;
 }
 
-namespace {
-bool sameKey(const EntryKey& a, const EntryKey& b) {
-  return a.section == b.section && a.group == b.group && a.name == b.name;
-}
-}  // namespace
-
 std::optional<std::string> RegistryText::get(const EntryKey& key) const {
   for (const Line& line : classify()) {
     if (line.kind == Kind::Entry && sameKey(line.entry.key, key)) return line.entry.value;
