@@ -44,6 +44,10 @@ bool hasNewline(const std::string& text) {
   return text.find(kNewline) != kNone;
 }
 
+bool sameKey(const EntryKey& a, const EntryKey& b) {
+  return a.section == b.section && a.group == b.group && a.name == b.name;
+}
+
 }  // namespace
 
 bool isStorableKey(const EntryKey& key) {
