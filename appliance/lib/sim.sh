@@ -132,7 +132,9 @@ sim_reg_put() {
   mkdir -p "$_dir"
   sim_touch "$SIM_REGISTRY"
   _tmp=$(mktemp "$_dir/.registry.XXXXXX")
-  awk -v g="[$_group]" -v n="$_name" -v set="$#" -v v="${2-}" '
+  # The value goes through the environment: awk -v would interpret backslashes.
+  REG_VALUE=${2-} awk -v g="[$_group]" -v n="$_name" -v set="$#" '
+    BEGIN { v = ENVIRON["REG_VALUE"] }
     function flush() { if (in_group && set == 2 && !done) { print n "=" v; done = 1 } }
     /^\[/ { flush(); in_group = ($0 == g); seen = seen || in_group; print; next }
     in_group && index($0, n "=") == 1 { if (set == 2 && !done) print n "=" v; done = 1; next }
