@@ -80,6 +80,7 @@ TEST_F(StandinsTest, KillallAndInitActOnTheSimulatedProcesses) {
   EXPECT_EQ(processState("mgetty_v2k"), "stopped");
   EXPECT_EQ(std::system("/usr/bin/killall -s CONT mgetty_v2k\n"), 0);
   EXPECT_EQ(processState("mgetty_v2k"), "running");
+  EXPECT_EQ(processState("mgetty"), "running") << "the continued script starts mgetty";
 
   EXPECT_NE(std::system("killall -9 chat >> /tmp/chatlog"), 0) << "no chat is running";
   EXPECT_EQ(calls(),
