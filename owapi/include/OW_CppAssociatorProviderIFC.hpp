@@ -1,0 +1,53 @@
+// Base of providers that serve association traversal (and, through the base, instances).
+#ifndef OW_CPPASSOCIATORPROVIDERIFC_HPP_INCLUDE_GUARD_
+#define OW_CPPASSOCIATORPROVIDERIFC_HPP_INCLUDE_GUARD_
+#include "OW_config.h"
+#ifndef OW_DISABLE_ASSOCIATION_TRAVERSAL
+#include "OW_AssociatorProviderInfo.hpp"
+#include "OW_CppInstanceProviderIFC.hpp"
+#include "OW_ResultHandlerIFC.hpp"
+#include "OW_SharedLibraryReference.hpp"
+
+namespace OW_NAMESPACE {
+
+class CppAssociatorProviderIFC : public virtual CppInstanceProviderIFC {
+ public:
+  virtual ~CppAssociatorProviderIFC();
+
+  virtual void getAssociatorProviderInfoWithEnv(const ProviderRegistrationEnvironmentIFCRef& env,
+                                                AssociatorProviderInfo& info);
+  virtual void getAssociatorProviderInfo(AssociatorProviderInfo& info);
+
+  virtual void associators(const ProviderEnvironmentIFCRef& env,
+                           CIMInstanceResultHandlerIFC& result, const String& ns,
+                           const CIMObjectPath& objectName, const String& assocClass,
+                           const String& resultClass, const String& role, const String& resultRole,
+                           WBEMFlags::EIncludeQualifiersFlag includeQualifiers,
+                           WBEMFlags::EIncludeClassOriginFlag includeClassOrigin,
+                           const StringArray* propertyList) = 0;
+  virtual void associatorNames(const ProviderEnvironmentIFCRef& env,
+                               CIMObjectPathResultHandlerIFC& result, const String& ns,
+                               const CIMObjectPath& objectName, const String& assocClass,
+                               const String& resultClass, const String& role,
+                               const String& resultRole) = 0;
+  virtual void references(const ProviderEnvironmentIFCRef& env, CIMInstanceResultHandlerIFC& result,
+                          const String& ns, const CIMObjectPath& objectName,
+                          const String& resultClass, const String& role,
+                          WBEMFlags::EIncludeQualifiersFlag includeQualifiers,
+                          WBEMFlags::EIncludeClassOriginFlag includeClassOrigin,
+                          const StringArray* propertyList) = 0;
+  virtual void referenceNames(const ProviderEnvironmentIFCRef& env,
+                              CIMObjectPathResultHandlerIFC& result, const String& ns,
+                              const CIMObjectPath& objectName, const String& resultClass,
+                              const String& role) = 0;
+
+  virtual CppAssociatorProviderIFC* getAssociatorProvider();
+};
+
+typedef SharedLibraryReference<IntrusiveReference<CppAssociatorProviderIFC> >
+    CppAssociatorProviderIFCRef;
+
+}  // namespace OW_NAMESPACE
+
+#endif
+#endif

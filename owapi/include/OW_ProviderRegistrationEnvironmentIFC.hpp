@@ -1,0 +1,29 @@
+// What the CIMOM offers a provider while it registers: logger, configuration, repository.
+#ifndef OW_PROVIDERREGISTRATIONENVIRONMENTIFC_HPP_INCLUDE_GUARD_
+#define OW_PROVIDERREGISTRATIONENVIRONMENTIFC_HPP_INCLUDE_GUARD_
+#include "OW_CommonFwd.hpp"
+#include "OW_IfcsFwd.hpp"
+#include "OW_IntrusiveCountableBase.hpp"
+#include "OW_IntrusiveReference.hpp"
+#include "OW_Logger.hpp"
+#include "OW_ProviderFwd.hpp"
+#include "OW_RepositoryIFC.hpp"
+#include "OW_String.hpp"
+#include "OW_config.h"
+
+namespace OW_NAMESPACE {
+
+class ProviderRegistrationEnvironmentIFC : public IntrusiveCountableBase {
+ public:
+  virtual ~ProviderRegistrationEnvironmentIFC();
+  virtual RepositoryIFCRef getRepository() const = 0;
+  virtual LoggerRef getLogger(const String& componentName) const = 0;
+  virtual String getConfigItem(const String& name, const String& defRetVal = "") const = 0;
+  virtual StringArray getMultiConfigItem(const String& itemName, const StringArray& defRetVal,
+                                         const char* tokenizeSeparator = 0) const = 0;
+  virtual ProviderRegistrationEnvironmentIFCRef clone() const = 0;
+};
+
+}  // namespace OW_NAMESPACE
+
+#endif
