@@ -1,0 +1,62 @@
+// The one way the module hands a command line to the shell: a printf-like format whose %s
+// and %d slots are filled with values made safe for the place they land in.
+#ifndef ZEPH_COMMANDRUNNER_H
+#define ZEPH_COMMANDRUNNER_H
+
+#include <initializer_list>
+#include <string>
+
+// One value for a %s or %d slot of a command format.
+class CommandArg {
+ public:
+  CommandArg(const char* text) : text_(text ? text : ""), isNumber_(false) {}
+  CommandArg(const std::string& text) : text_(text), isNumber_(false) {}
+  CommandArg(int number) : text_(std::to_string(number)), isNumber_(true) {}
+  CommandArg(unsigned number) : text_(std::to_string(number)), isNumber_(true) {}
+  CommandArg(long number) : text_(std::to_string(number)), isNumber_(true) {}
+  CommandArg(unsigned long number) : text_(std::to_string(number)), isNumber_(true) {}
+
+  const std::string& text() const { return text_; }
+  bool isNumber() const { return isNumber_; }
+
+ private:
+  std::string text_;
+  bool isNumber_;
+};
+
+// A command line built from a format and its values. The format knows only %s, %d and %%.
+// A value with only ordinary characters lands as it is, so documented command lines stay
+// byte for byte the same. Otherwise, outside quotes it becomes one single-quoted shell word;
+// inside quotes of the format, or with a newline anywhere, the command is refused. A command
+// that would not fit the 1024-byte buffer the appliance's tools were written for is refused too.
+class ShellCommand {
+ public:
+  ShellCommand(const char* format, std::initializer_list<CommandArg> args);
+
+  bool valid() const { return valid_; }
+  const std::string& text() const { return text_; }
+
+  // Runs the line with system(); a refused command is logged and not run (result -1).
+  int run() const;
+
+ private:
+  std::string text_;
+  bool valid_;
+};
+
+// Builds and runs a command in one step; the result is system()'s, or -1 when refused.
+int runCommand(const char* format, std::initializer_list<CommandArg> args);
+
+// True when `value` can stand in a command line as it is, in any quoting context.
+bool isPlainShellValue(const std::string& value);
+
+// `value` as one shell word: unchanged when plain, else single-quoted.
+std::string shellWord(const std::string& value);
+
+// Log text for a refused command (error level).
+extern const char* const kCommandRefusedLog;
+
+// Longest command line the module runs (the original buffers hold 1024 bytes).
+constexpr std::size_t kMaxCommandLength = 1023;
+
+#endif  // ZEPH_COMMANDRUNNER_H

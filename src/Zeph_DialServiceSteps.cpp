@@ -1,0 +1,125 @@
+// The steps of the dial-service restarts, each with the exact files and command lines the
+// appliance's scripts and stand-in tools expect.
+#include "Zeph_DialServiceSteps.h"
+
+#include "Zeph_PlatformAccess.h"
+#include "Zeph_PlatformLog.h"
+
+const char* const kDialOutScript = "/qv/etc/ppp/ppp_add_v2k";
+const char* const kDialInScript = "/qv/etc/ppp/mgetty_v2k";
+const char* const kMarkerFile = "/qv/etc/ppp/ppp_active_if_file";
+
+namespace {
+
+const char* const kHangupScript = "/qv/etc/ppp/ppp_hup_v2k";
+const char* const kIfoutFile = "/tmp/ifout";
+const char* const kSed = "/bin/sed";
+const char* const kSignalKillall = "/usr/bin/killall";
+const char* const kChat = "chat";
+const char* const kMgetty = "mgetty";
+
+const char* const kKeyDialOut = "ADDO";
+const char* const kKeyDialIn = "DIN";
+const char* const kUnitFormat = "ppp%s";
+const char* const kInterfacePrefix = "ppp";
+const char* const kFirstWord = "%s";
+const char* const kGateLine = "#$IF_ENABLE_CMD";
+const char* const kMarkerEnabled = "#ENABLED";
+const char* const kMarkerDisabled = "#DISABLED";
+
+const char* const kCmdListPpp = "/sbin/ifconfig | grep \"ppp\" > /tmp/ifout ";
+const char* const kCmdListPppExcept =
+    "/sbin/ifconfig | grep \"ppp\" | grep -v \"%s\" > /tmp/ifout ";
+const char* const kCmdKill9 = "killall -9 %s";
+const char* const kCmdHangup = "%s %s";
+const char* const kCmdInitReload = "init q";
+const char* const kCmdCloseGate = "%s -i 's/#\\?$IF_ENABLE_CMD/$IF_ENABLE_CMD/' %s";
+const char* const kCmdOpenGate = "%s -i 's/#\\?$IF_ENABLE_CMD/#$IF_ENABLE_CMD/' %s";
+const char* const kCmdContinue = "%s -s CONT %s\n";
+
+const char* const kLogDialInResumed = "For Dialin Previous interface";
+const char* const kLogDialOutResumed = "For Dialout Previous Interface";
+
+// "ppp" and the unit of the first "ppp" line of `path`.
+std::string interfaceFrom(const char* path) {
+  std::string unit;
+  getConfigParameter(path, kUnitFormat, &unit);
+  return kInterfacePrefix + unit;
+}
+
+// The first word of the line of `script` that begins with `prefix` ("" when none).
+std::string firstWordOf(const char* script, const char* prefix) {
+  std::string value;
+  getParameterFromFile(script, kFirstWord, prefix, value);
+  return value;
+}
+
+}  // namespace
+
+const DialDirection kDialInDirection = {kDialInScript, "mgetty_v2k", kLogDialInResumed};
+const DialDirection kDialOutDirection = {kDialOutScript, "ppp_add_v2k", kLogDialOutResumed};
+
+int dialOutRecorded() {
+  return getConfigParameter(kMarkerFile, kKeyDialOut);
+}
+
+int dialInRecorded() {
+  return getConfigParameter(kMarkerFile, kKeyDialIn);
+}
+
+std::string interfaceInMarker() {
+  return interfaceFrom(kMarkerFile);
+}
+
+std::string dialOutInterfaceFor(int addo) {
+  if (addo == -1) {
+    runCommand(kCmdListPpp, {});
+    return interfaceFrom(kIfoutFile);
+  }
+  const std::string active = interfaceInMarker();
+  if (addo == 1) return active;
+  runCommand(kCmdListPppExcept, {active});
+  return interfaceFrom(kIfoutFile);
+}
+
+std::string gateState(const char* script) {
+  return firstWordOf(script, kGateLine);
+}
+
+void closeGate(const char* script) {
+  runCommand(kCmdCloseGate, {kSed, script});
+}
+
+void resumeDirection(const DialDirection& direction) {
+  std::string marker = firstWordOf(direction.script, kMarkerEnabled);
+  if (marker == kMarkerEnabled) {
+    runCommand(kCmdOpenGate, {kSed, direction.script});
+    runCommand(kCmdContinue, {kSignalKillall, direction.process});
+    platformLogDebug(direction.resumedLog);
+    return;
+  }
+  getParameterFromFile(direction.script, kFirstWord, kMarkerDisabled, marker);
+  if (marker == kMarkerDisabled) closeGate(direction.script);
+}
+
+ShellCommand hangupCommand(const std::string& interface) {
+  return ShellCommand(kCmdHangup, {kHangupScript, interface});
+}
+
+ShellCommand killMgettyCommand() {
+  return ShellCommand(kCmdKill9, {kMgetty});
+}
+
+void killChat() {
+  runCommand(kCmdKill9, {kChat});
+}
+
+void reloadInit() {
+  runCommand(kCmdInitReload, {});
+}
+
+void logAndRun(const char* label, const ShellCommand& command) {
+  platformLogDebug(label);
+  platformLogDebug(command.text());
+  command.run();
+}

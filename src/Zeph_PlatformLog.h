@@ -1,0 +1,20 @@
+// Logging for the platform-access functions: one message per call to the module's logger,
+// which may still be empty before the provider is initialised.
+#ifndef ZEPH_PLATFORMLOG_H
+#define ZEPH_PLATFORMLOG_H
+
+#include <string>
+
+#include "OW_Logger.hpp"
+#include "OW_String.hpp"
+#include "Zeph_ModuleGlobals.h"
+
+inline void platformLogDebug(const std::string& message) {
+  if (logger) logger->logDebug(OpenWBEM::String(message.c_str()));
+}
+
+inline void platformLogError(const std::string& message) {
+  if (logger) logger->logError(OpenWBEM::String(message.c_str()));
+}
+
+#endif  // ZEPH_PLATFORMLOG_H

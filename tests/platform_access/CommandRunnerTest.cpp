@@ -1,0 +1,49 @@
+// The command runner: documented command lines come out byte for byte, and a value cannot
+// change what a line means.
+#include <gmock/gmock.h>
+
+#include "TestSupport.h"
+#include "Zeph_CommandRunner.h"
+
+namespace {
+
+TEST(CommandRunnerTest, ValuesLandAsTheyAreAsOneQuotedWordOrNotAtAll) {
+  const char* const sed = "%s -i 's/^x=.*/x=\"%s\"/' %s";
+  const char* const except = "grep -v \"%s\" > /tmp/ifout ";
+  const struct {
+    ShellCommand command;
+    std::string text;  // "" when refused
+  } rows[] = {
+      {{"%s -s CONT %s\n", {"/usr/bin/killall", "ppp_add_v2k"}},
+       "/usr/bin/killall -s CONT ppp_add_v2k\n"},
+      {{sed, {"/bin/sed", "0,,12 *", "/f"}}, "/bin/sed -i 's/^x=.*/x=\"0,,12 *\"/' /f"},
+      {{sed, {"/bin/sed", "1'; reboot; '", "/f"}}, ""},
+      {{except, {"ppp 0"}}, "grep -v \"ppp 0\" > /tmp/ifout "},
+      {{except, {"ppp$(reboot)"}}, ""},
+      {{"%s %s", {"/hup", "ppp0;reboot"}}, "/hup 'ppp0;reboot'"},
+      {{"%s %s", {"/x", "it's"}}, "/x 'it'\\''s'"},
+      {{"%s %s", {"/x", "a\nb"}}, ""},
+      {{"%s name %s", {"/s", ""}}, "/s name "},
+      {{"\\'%s", {"a b"}}, "\\''a b'"},  // an escaped quote opens nothing
+      {{"%d%% %s", {7, "x"}}, "7% x"},
+      {{"%s %s", {"x"}}, ""},
+      {{"%s", {"x", "y"}}, ""},
+      {{"%x", {"x"}}, ""},
+      {{"%s", {std::string(1023, 'a')}}, std::string(1023, 'a')},
+      {{"%s", {std::string(1024, 'a')}}, ""},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(row.command.valid(), !row.text.empty()) << row.text;
+    EXPECT_EQ(row.command.text(), row.text);
+  }
+}
+
+TEST(CommandRunnerTest, RefusedCommandIsLoggedAndNotRun) {
+  ScopedLogRecorder log;
+  EXPECT_EQ(runCommand("exit 3; echo \"%s\"", {"`id`"}), -1);
+  EXPECT_THAT(log.newLines(),
+              testing::ElementsAre("ERROR|Command not run: a value is not safe for the shell\n"));
+  EXPECT_EQ(runCommand("exit %d", {3}), 3 << 8);
+}
+
+}  // namespace
