@@ -1,5 +1,6 @@
 // The appliance as the module sees it: system() runs through the journalling shell in a
 // fresh appliance, and the fixture reads back the files and the journal.
+#include <algorithm>
 #include <cstdlib>
 
 #include "ApplianceTest.h"
