@@ -21,6 +21,9 @@ char* dupString(const char* s) {
 }
 }  // namespace
 
+const int Exception::UNKNOWN_SUBCLASS_ID;
+const int Exception::UNKNOWN_ERROR_CODE;
+
 Exception::Exception(const char* file, int line, const char* msg, int errorCode,
                      const Exception* otherException, int subClassId)
     : std::exception(),

@@ -33,6 +33,8 @@ String fromPrintf(const char* fmt, ...) {
 }
 }  // namespace
 
+const size_t String::npos;
+
 String::String() : m_buf(new ByteBuf) {}
 String::String(Int32 val) : String(fromPrintf("%d", val)) {}
 String::String(UInt32 val) : String(fromPrintf("%u", val)) {}
