@@ -110,11 +110,11 @@ class SystemElementKeyed : public ClassModel<W, M, 4> {
     return this->keyValue(2, value);
   }
 
- protected:
   SystemElementKeyed(const std::string& systemCreationClassName, const std::string& systemName,
                      const std::string& creationClassName, const std::string& identity)
       : ClassModel<W, M, 4>({systemCreationClassName, systemName, creationClassName, identity}) {}
 
+ protected:
   int identityKey(std::string& value) const { return this->keyValue(3, value); }
 };
 

@@ -21,10 +21,11 @@ namespace ras {
 // Keeps a manager reachable for the life of the process: installed managers are never freed.
 void keepInstalledManager(const void* manager);
 
-template <class Traits>
+template <class TraitsT>
 class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
                          public OpenWBEM::CppMethodProviderIFC {
  public:
+  using Traits = TraitsT;
   using W = typename Traits::Wrapper;
   using M = typename Traits::Manager;
   using EnvRef = OpenWBEM::ProviderEnvironmentIFCRef;

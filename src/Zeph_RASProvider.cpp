@@ -1,5 +1,5 @@
 // The module objects (ten per-class providers, then logger and hdl), the class table the
-// dispatcher routes through, the exported entry points and the provider's life cycle.
+// dispatcher routes through, and the provider's life cycle.
 #include "Zeph_RASProvider.h"
 
 #include "Zeph_CallInSettingDataProvider.h"
@@ -32,7 +32,6 @@ OpenWBEM::IntrusiveReference<OpenWBEM::CIMOMHandleIFC> hdl;
 
 namespace {
 
-constexpr char kProviderInterfaceVersion[] = "3.0.3";
 constexpr char kLogComponent[] = "Zeph_RASProvider";
 
 // Instance and method requests for Zeph_DialOutRoutes go to its instance-provider base.
@@ -107,15 +106,4 @@ void Zeph_RASProvider::initialize(const EnvRef& env) {
 
 void Zeph_RASProvider::cleanup() {
   ras::cleanupModuleClasses();
-}
-
-extern "C" {
-
-OpenWBEM::CppProviderBaseIFC* createProviderZeph_RASProvider() {
-  return new Zeph_RASProvider;
-}
-
-const char* getOWVersion() {
-  return kProviderInterfaceVersion;
-}
 }

@@ -4,52 +4,15 @@
 #include "OW_CIMObjectPath.hpp"
 #include "OW_CIMValue.hpp"
 #include "Zeph_DispatchGuard.h"
+#include "Zeph_DispatchOperations.h"
 #include "Zeph_ModuleClasses.h"
 #include "Zeph_RASProvider.h"
 
 namespace {
 
-using ras::ConfigErrors;
 using ras::ModuleClass;
 using ras::Operation;
-
-constexpr Operation kEnumInstanceNames{
-    " while performing enumInstanceNames operation on ", ConfigErrors::Read, 188, 0, 203, 211, 216};
-constexpr Operation kEnumInstances{
-    " while performing enumInstances operation on ", ConfigErrors::Read, 323, 0, 338, 346, 351};
-constexpr Operation kGetInstance{
-    " while performing getInstance operation on ", ConfigErrors::Read, 452, 0, 467, 475, 479};
-constexpr Operation kCreateInstance{
-    " while performing createInstance operation on ", ConfigErrors::Write, 0, 567, 582, 590, 595};
-constexpr Operation kDeleteInstance{
-    " while performing deleteInstance operation on ", ConfigErrors::Write, 0, 676, 691, 699, 704};
-constexpr Operation kModifyInstance{
-    " while performing modifyInstance operation on ", ConfigErrors::Write, 0, 797, 812, 820, 825};
-constexpr Operation kInvokeMethod{" while performing invokeMethod operation on ",
-                                  ConfigErrors::ReadThenWrite,
-                                  906,
-                                  910,
-                                  925,
-                                  933,
-                                  936};
-constexpr Operation kAssociators{
-    " while performing associators operation on ", ConfigErrors::Read, 972, 0, 987, 995, 1000};
-constexpr Operation kAssociatorNames{" while performing associatorNames operation on ",
-                                     ConfigErrors::Read,
-                                     1031,
-                                     0,
-                                     1046,
-                                     1054,
-                                     1059};
-constexpr Operation kReferences{
-    " while performing references operation on ", ConfigErrors::Read, 1092, 0, 1107, 1115, 1120};
-constexpr Operation kReferenceNames{" while performing referenceNames operation on ",
-                                    ConfigErrors::Read,
-                                    1148,
-                                    0,
-                                    1163,
-                                    1171,
-                                    1176};
+using namespace ras::operations;
 
 // Runs `forward` on the instance/method providers of `className`, if the module has them.
 template <class Forward>

@@ -1,0 +1,154 @@
+// The provider template's contract, checked once for each of the ten classes: before a class
+// has an implementation nothing is listed or created, a bare wrapper shows only its keys and
+// is found again by its path, and every writable property reaches the wrapper's default.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <utility>
+
+#include "CimFailure.h"
+#include "OW_CIMClass.hpp"
+#include "OW_CIMParamValue.hpp"
+#include "OW_CIMProperty.hpp"
+#include "OW_ResultHandlers.hpp"
+#include "TestEnvironment.h"
+#include "Zeph_CallInSettingDataProvider.h"
+#include "Zeph_DialOutRoutesInstProvider.h"
+#include "Zeph_DialOutSettingDataProvider.h"
+#include "Zeph_NextHopIPRouteProvider.h"
+#include "Zeph_PPPProtocolEndpointProvider.h"
+#include "Zeph_RASIPProtocolEndpointProvider.h"
+#include "Zeph_RASServiceProvider.h"
+#include "Zeph_RASStaticIPAddressPoolProvider.h"
+#include "Zeph_SerialPortProvider.h"
+#include "Zeph_SoftModemProvider.h"
+
+namespace {
+
+using namespace OpenWBEM;
+
+template <class P, const char* Source>
+struct ProviderCase {
+  using Provider = P;
+  static constexpr const char* kSource = Source;
+};
+
+constexpr char kCallIn[] = "../src/Zeph_CallInSettingDataProvider";
+constexpr char kDialOut[] = "../src/Zeph_DialOutSettingDataProvider";
+constexpr char kService[] = "../src/Zeph_RASServiceProvider";
+constexpr char kPool[] = "../src/Zeph_RASStaticIPAddressPoolProvider";
+constexpr char kRoute[] = "../src/Zeph_NextHopIPRouteProvider";
+constexpr char kIPEndpoint[] = "../src/Zeph_RASIPProtocolEndpointProvider";
+constexpr char kPPP[] = "../src/Zeph_PPPProtocolEndpointProvider";
+constexpr char kModem[] = "../src/Zeph_SoftModemProvider";
+constexpr char kSerial[] = "../src/Zeph_SerialPortProvider";
+constexpr char kRoutes[] = "../src/Zeph_DialOutRoutesInstProvider";
+
+const String kNs("root/cimv2");
+const CIMClass kNoClass(CIMNULL);
+
+template <class Case>
+class ProviderContract : public ::testing::Test {
+ protected:
+  using Provider = typename Case::Provider;
+  using W = typename Provider::W;
+
+  // The provider installs a fresh, empty manager of its class.
+  void SetUp() override { provider_.initialize(env_); }
+
+  template <std::size_t... I>
+  static std::unique_ptr<W> bareWrapper(std::index_sequence<I...>) {
+    return std::make_unique<W>(("key" + std::to_string(I))...);
+  }
+
+  CIMObjectPathArray names() {
+    CIMObjectPathArray paths;
+    CIMObjectPathArrayBuilder result(paths);
+    provider_.enumInstanceNames(env_, kNs, Provider::Traits::kClass, result, kNoClass);
+    return paths;
+  }
+
+  static CIMValue sampleOf(const ras::Property<W>& row) {
+    switch (row.type) {
+      case ras::CimType::UInt16:
+        return CIMValue(UInt16(5));
+      case ras::CimType::UInt8:
+        return CIMValue(UInt8(1));
+      case ras::CimType::Boolean:
+        return CIMValue(true);
+      default:
+        return CIMValue(String("x"));
+    }
+  }
+
+  TestEnvRef env_ = TestEnvironment::make();
+  Provider provider_;
+};
+
+using Cases = ::testing::Types<ProviderCase<Zeph_CallInSettingDataProvider, kCallIn>,
+                               ProviderCase<Zeph_DialOutSettingDataProvider, kDialOut>,
+                               ProviderCase<Zeph_RASServiceProvider, kService>,
+                               ProviderCase<Zeph_RASStaticIPAddressPoolProvider, kPool>,
+                               ProviderCase<Zeph_NextHopIPRouteProvider, kRoute>,
+                               ProviderCase<Zeph_RASIPProtocolEndpointProvider, kIPEndpoint>,
+                               ProviderCase<Zeph_PPPProtocolEndpointProvider, kPPP>,
+                               ProviderCase<Zeph_SoftModemProvider, kModem>,
+                               ProviderCase<Zeph_SerialPortProvider, kSerial>,
+                               ProviderCase<Zeph_DialOutRoutesInstProvider, kRoutes>>;
+TYPED_TEST_SUITE(ProviderContract, Cases);
+
+TYPED_TEST(ProviderContract, WithoutImplementationNothingIsListedOrCreated) {
+  EXPECT_EQ(this->names().size(), 0u);
+  const CimFailure create = cimFailureOf(
+      [&] { this->provider_.createInstance(this->env_, kNs, CIMInstance("Anything")); });
+  EXPECT_EQ(create, (CimFailure{CIMException::NOT_SUPPORTED, TypeParam::kSource, 206,
+                                "The system cannot create the instance specified.\n"
+                                "#CFG_000_0005#"}));
+  CIMParamValueArray out;
+  const CimFailure invoke = cimFailureOf([&] {
+    this->provider_.invokeMethod(this->env_, kNs, CIMObjectPath(), "Anything", CIMParamValueArray(),
+                                 out);
+  });
+  EXPECT_EQ(invoke,
+            (CimFailure{CIMException::METHOD_NOT_FOUND, TypeParam::kSource, 432, std::nullopt}));
+}
+
+TYPED_TEST(ProviderContract, BareWrapperShowsItsKeysAndIsFoundByItsPath) {
+  using W = typename TestFixture::W;
+  const auto wrapper = TestFixture::bareWrapper(std::make_index_sequence<W::kKeyCount>{});
+  const CIMObjectPathArray paths = this->names();
+  ASSERT_EQ(paths.size(), 1u);
+  const CIMInstance instance = this->provider_.getInstance(
+      this->env_, kNs, paths[0], WBEMFlags::E_NOT_LOCAL_ONLY, WBEMFlags::E_EXCLUDE_QUALIFIERS,
+      WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0, kNoClass);
+  std::size_t keys = 0;
+  for (const auto& row : TestFixture::Provider::Traits::properties()) {
+    if (row.role != ras::Role::Key) continue;
+    EXPECT_TRUE(instance.getProperty(row.name)) << row.name;
+    EXPECT_EQ(instance.getPropertyValue(row.name), paths[0].getKeyValue(row.name)) << row.name;
+    ++keys;
+  }
+  EXPECT_EQ(instance.getProperties().size(), keys);
+  EXPECT_EQ(keys, W::kKeyCount);
+}
+
+TYPED_TEST(ProviderContract, EveryWritablePropertyReachesTheWrappersDefaultSetter) {
+  using W = typename TestFixture::W;
+  const auto wrapper = TestFixture::bareWrapper(std::make_index_sequence<W::kKeyCount>{});
+  const CIMObjectPath path = this->names()[0];
+  for (const auto& row : TestFixture::Provider::Traits::properties()) {
+    if (row.role != ras::Role::Writable) continue;
+    CIMInstance instance(path.getClassName().c_str());
+    for (const CIMProperty& key : path.getKeys()) instance.setProperty(key);
+    instance.setProperty(row.name, TestFixture::sampleOf(row));
+    const CimFailure failure = cimFailureOf([&] {
+      this->provider_.modifyInstance(this->env_, kNs, instance, instance,
+                                     WBEMFlags::E_EXCLUDE_QUALIFIERS, 0, kNoClass);
+    });
+    EXPECT_EQ(failure,
+              (CimFailure{CIMException::FAILED, TypeParam::kSource, 388, "#RAS_MODEM_101#"}))
+        << row.name;
+  }
+}
+
+}  // namespace
