@@ -115,8 +115,8 @@ String quoted(const String& s) {
   return out + "\"";
 }
 
-String scalarMOF(const CIMValue& v, const String& text) {
-  switch (v.getType()) {
+String scalarMOF(CIMDataType::Type type, const String& text) {
+  switch (type) {
     case CIMDataType::STRING:
     case CIMDataType::DATETIME:
     case CIMDataType::REFERENCE:
@@ -125,6 +125,20 @@ String scalarMOF(const CIMValue& v, const String& text) {
       return String("'") + text + "'";
     default:
       return text;
+  }
+}
+
+// MOF form: strings, dates and references quoted, arrays in braces.
+template <typename T>
+String valueMOF(CIMDataType::Type type, const T& v) {
+  if constexpr (kIsArray<T>) {
+    String out("{");
+    for (size_t i = 0; i < v.size(); ++i) {
+      out += (i > 0 ? ", " : "") + scalarMOF(type, scalarText(v[i]));
+    }
+    return out + "}";
+  } else {
+    return scalarMOF(type, scalarText(v));
   }
 }
 }  // namespace
@@ -140,16 +154,8 @@ String CIMValue::toMOF() const {
   if (!m_impl) {
     return String("NULL");
   }
-  if (!isArray()) {
-    return scalarMOF(*this, toString());
-  }
-  StringArray parts =
-      toString().tokenize(",", String::E_DISCARD_DELIMITERS, String::E_RETURN_EMPTY_TOKENS);
-  String out("{");
-  for (size_t i = 0; i < parts.size(); ++i) {
-    out += (i > 0 ? ", " : "") + scalarMOF(*this, parts[i]);
-  }
-  return out + "}";
+  CIMDataType::Type type = m_impl->type();
+  return std::visit([type](const auto& v) { return valueMOF(type, v); }, m_impl->value);
 }
 
 bool CIMValue::equal(const CIMValue& x) const {
