@@ -24,13 +24,21 @@ class Zeph_CallInSettingDataProvider : public ras::InstanceProvider<Zeph_CallInS
 
   void Zeph_CallInSettingDataToCIMInstance(const OpenWBEM::String& ns,
                                            const Zeph_CallInSettingData& object,
-                                           OpenWBEM::CIMInstance& instance) const;
+                                           OpenWBEM::CIMInstance& instance) const {
+    toInstance(ns, object, instance);
+  }
   void Zeph_CallInSettingDataToCIMObjectPath(const Zeph_CallInSettingData& object,
-                                             OpenWBEM::CIMObjectPath& path) const;
+                                             OpenWBEM::CIMObjectPath& path) const {
+    toObjectPath(object, path);
+  }
   Zeph_CallInSettingData* getZeph_CallInSettingDataWithCIMObjectPath(
-      const OpenWBEM::CIMObjectPath& path) const;
+      const OpenWBEM::CIMObjectPath& path) const {
+    return lookup(path);
+  }
   Zeph_CallInSettingData* getZeph_CallInSettingDataWithCIMInstance(
-      const OpenWBEM::CIMInstance& instance) const;
+      const OpenWBEM::CIMInstance& instance) const {
+    return lookup(instance);
+  }
 };
 
 #endif

@@ -23,13 +23,21 @@ class Zeph_DialOutRoutesInstProvider : public ras::InstanceProvider<Zeph_DialOut
   using InstanceProvider::modifyInstance;
 
   void Zeph_DialOutRoutesToCIMInstance(const OpenWBEM::String& ns, const Zeph_DialOutRoutes& object,
-                                       OpenWBEM::CIMInstance& instance) const;
+                                       OpenWBEM::CIMInstance& instance) const {
+    toInstance(ns, object, instance);
+  }
   void Zeph_DialOutRoutesToCIMObjectPath(const Zeph_DialOutRoutes& object,
-                                         OpenWBEM::CIMObjectPath& path) const;
+                                         OpenWBEM::CIMObjectPath& path) const {
+    toObjectPath(object, path);
+  }
   Zeph_DialOutRoutes* getZeph_DialOutRoutesWithCIMObjectPath(
-      const OpenWBEM::CIMObjectPath& path) const;
+      const OpenWBEM::CIMObjectPath& path) const {
+    return lookup(path);
+  }
   Zeph_DialOutRoutes* getZeph_DialOutRoutesWithCIMInstance(
-      const OpenWBEM::CIMInstance& instance) const;
+      const OpenWBEM::CIMInstance& instance) const {
+    return lookup(instance);
+  }
 };
 
 #endif

@@ -25,13 +25,21 @@ class Zeph_DialOutSettingDataProvider
 
   void Zeph_DialOutSettingDataToCIMInstance(const OpenWBEM::String& ns,
                                             const Zeph_DialOutSettingData& object,
-                                            OpenWBEM::CIMInstance& instance) const;
+                                            OpenWBEM::CIMInstance& instance) const {
+    toInstance(ns, object, instance);
+  }
   void Zeph_DialOutSettingDataToCIMObjectPath(const Zeph_DialOutSettingData& object,
-                                              OpenWBEM::CIMObjectPath& path) const;
+                                              OpenWBEM::CIMObjectPath& path) const {
+    toObjectPath(object, path);
+  }
   Zeph_DialOutSettingData* getZeph_DialOutSettingDataWithCIMObjectPath(
-      const OpenWBEM::CIMObjectPath& path) const;
+      const OpenWBEM::CIMObjectPath& path) const {
+    return lookup(path);
+  }
   Zeph_DialOutSettingData* getZeph_DialOutSettingDataWithCIMInstance(
-      const OpenWBEM::CIMInstance& instance) const;
+      const OpenWBEM::CIMInstance& instance) const {
+    return lookup(instance);
+  }
 };
 
 #endif

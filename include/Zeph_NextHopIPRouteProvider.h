@@ -24,13 +24,21 @@ class Zeph_NextHopIPRouteProvider : public ras::InstanceProvider<Zeph_NextHopIPR
 
   void Zeph_NextHopIPRouteToCIMInstance(const OpenWBEM::String& ns,
                                         const Zeph_NextHopIPRoute& object,
-                                        OpenWBEM::CIMInstance& instance) const;
+                                        OpenWBEM::CIMInstance& instance) const {
+    toInstance(ns, object, instance);
+  }
   void Zeph_NextHopIPRouteToCIMObjectPath(const Zeph_NextHopIPRoute& object,
-                                          OpenWBEM::CIMObjectPath& path) const;
+                                          OpenWBEM::CIMObjectPath& path) const {
+    toObjectPath(object, path);
+  }
   Zeph_NextHopIPRoute* getZeph_NextHopIPRouteWithCIMObjectPath(
-      const OpenWBEM::CIMObjectPath& path) const;
+      const OpenWBEM::CIMObjectPath& path) const {
+    return lookup(path);
+  }
   Zeph_NextHopIPRoute* getZeph_NextHopIPRouteWithCIMInstance(
-      const OpenWBEM::CIMInstance& instance) const;
+      const OpenWBEM::CIMInstance& instance) const {
+    return lookup(instance);
+  }
 };
 
 #endif

@@ -25,13 +25,21 @@ class Zeph_PPPProtocolEndpointProvider
 
   void Zeph_PPPProtocolEndpointToCIMInstance(const OpenWBEM::String& ns,
                                              const Zeph_PPPProtocolEndpoint& object,
-                                             OpenWBEM::CIMInstance& instance) const;
+                                             OpenWBEM::CIMInstance& instance) const {
+    toInstance(ns, object, instance);
+  }
   void Zeph_PPPProtocolEndpointToCIMObjectPath(const Zeph_PPPProtocolEndpoint& object,
-                                               OpenWBEM::CIMObjectPath& path) const;
+                                               OpenWBEM::CIMObjectPath& path) const {
+    toObjectPath(object, path);
+  }
   Zeph_PPPProtocolEndpoint* getZeph_PPPProtocolEndpointWithCIMObjectPath(
-      const OpenWBEM::CIMObjectPath& path) const;
+      const OpenWBEM::CIMObjectPath& path) const {
+    return lookup(path);
+  }
   Zeph_PPPProtocolEndpoint* getZeph_PPPProtocolEndpointWithCIMInstance(
-      const OpenWBEM::CIMInstance& instance) const;
+      const OpenWBEM::CIMInstance& instance) const {
+    return lookup(instance);
+  }
 };
 
 #endif

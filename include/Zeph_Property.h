@@ -3,6 +3,7 @@
 #ifndef ZEPH_PROPERTY_H
 #define ZEPH_PROPERTY_H
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <type_traits>
@@ -103,6 +104,16 @@ struct Rows : TypedRows<W, std::string>,
                                   const char* target) {
     return {name, Role::Key, CimType::Reference, Accessors<W, std::string>{get, nullptr},
             {},   target};
+  }
+  // The four keys of a CIM system element, in key order; `identity` is the class's own.
+  static PropertyTable<W> systemElementKeys(const char* identity, Getter<W, std::string> get) {
+    return {key("SystemCreationClassName", &W::getSystemCreationClassName),
+            key("SystemName", &W::getSystemName),
+            key("CreationClassName", &W::getCreationClassName), key(identity, get)};
+  }
+  static PropertyTable<W> joined(PropertyTable<W> head, std::initializer_list<Property<W>> tail) {
+    head.insert(head.end(), tail.begin(), tail.end());
+    return head;
   }
   static Property<W> datetime(const char* name, Getter<W, std::string> get) {
     return {name, Role::ReadOnly, CimType::DateTime, Accessors<W, std::string>{get, nullptr},

@@ -25,13 +25,21 @@ class Zeph_RASIPProtocolEndpointProvider
 
   void Zeph_RASIPProtocolEndpointToCIMInstance(const OpenWBEM::String& ns,
                                                const Zeph_RASIPProtocolEndpoint& object,
-                                               OpenWBEM::CIMInstance& instance) const;
+                                               OpenWBEM::CIMInstance& instance) const {
+    toInstance(ns, object, instance);
+  }
   void Zeph_RASIPProtocolEndpointToCIMObjectPath(const Zeph_RASIPProtocolEndpoint& object,
-                                                 OpenWBEM::CIMObjectPath& path) const;
+                                                 OpenWBEM::CIMObjectPath& path) const {
+    toObjectPath(object, path);
+  }
   Zeph_RASIPProtocolEndpoint* getZeph_RASIPProtocolEndpointWithCIMObjectPath(
-      const OpenWBEM::CIMObjectPath& path) const;
+      const OpenWBEM::CIMObjectPath& path) const {
+    return lookup(path);
+  }
   Zeph_RASIPProtocolEndpoint* getZeph_RASIPProtocolEndpointWithCIMInstance(
-      const OpenWBEM::CIMInstance& instance) const;
+      const OpenWBEM::CIMInstance& instance) const {
+    return lookup(instance);
+  }
 };
 
 #endif

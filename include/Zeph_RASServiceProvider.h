@@ -22,11 +22,19 @@ class Zeph_RASServiceProvider : public ras::InstanceProvider<Zeph_RASServiceTrai
   using InstanceProvider::modifyInstance;
 
   void Zeph_RASServiceToCIMInstance(const OpenWBEM::String& ns, const Zeph_RASService& object,
-                                    OpenWBEM::CIMInstance& instance) const;
+                                    OpenWBEM::CIMInstance& instance) const {
+    toInstance(ns, object, instance);
+  }
   void Zeph_RASServiceToCIMObjectPath(const Zeph_RASService& object,
-                                      OpenWBEM::CIMObjectPath& path) const;
-  Zeph_RASService* getZeph_RASServiceWithCIMObjectPath(const OpenWBEM::CIMObjectPath& path) const;
-  Zeph_RASService* getZeph_RASServiceWithCIMInstance(const OpenWBEM::CIMInstance& instance) const;
+                                      OpenWBEM::CIMObjectPath& path) const {
+    toObjectPath(object, path);
+  }
+  Zeph_RASService* getZeph_RASServiceWithCIMObjectPath(const OpenWBEM::CIMObjectPath& path) const {
+    return lookup(path);
+  }
+  Zeph_RASService* getZeph_RASServiceWithCIMInstance(const OpenWBEM::CIMInstance& instance) const {
+    return lookup(instance);
+  }
 };
 
 #endif

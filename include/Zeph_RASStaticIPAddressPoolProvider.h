@@ -25,13 +25,21 @@ class Zeph_RASStaticIPAddressPoolProvider
 
   void Zeph_RASStaticIPAddressPoolToCIMInstance(const OpenWBEM::String& ns,
                                                 const Zeph_RASStaticIPAddressPool& object,
-                                                OpenWBEM::CIMInstance& instance) const;
+                                                OpenWBEM::CIMInstance& instance) const {
+    toInstance(ns, object, instance);
+  }
   void Zeph_RASStaticIPAddressPoolToCIMObjectPath(const Zeph_RASStaticIPAddressPool& object,
-                                                  OpenWBEM::CIMObjectPath& path) const;
+                                                  OpenWBEM::CIMObjectPath& path) const {
+    toObjectPath(object, path);
+  }
   Zeph_RASStaticIPAddressPool* getZeph_RASStaticIPAddressPoolWithCIMObjectPath(
-      const OpenWBEM::CIMObjectPath& path) const;
+      const OpenWBEM::CIMObjectPath& path) const {
+    return lookup(path);
+  }
   Zeph_RASStaticIPAddressPool* getZeph_RASStaticIPAddressPoolWithCIMInstance(
-      const OpenWBEM::CIMInstance& instance) const;
+      const OpenWBEM::CIMInstance& instance) const {
+    return lookup(instance);
+  }
 };
 
 #endif

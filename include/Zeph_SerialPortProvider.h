@@ -22,11 +22,19 @@ class Zeph_SerialPortProvider : public ras::InstanceProvider<Zeph_SerialPortTrai
   using InstanceProvider::modifyInstance;
 
   void Zeph_SerialPortToCIMInstance(const OpenWBEM::String& ns, const Zeph_SerialPort& object,
-                                    OpenWBEM::CIMInstance& instance) const;
+                                    OpenWBEM::CIMInstance& instance) const {
+    toInstance(ns, object, instance);
+  }
   void Zeph_SerialPortToCIMObjectPath(const Zeph_SerialPort& object,
-                                      OpenWBEM::CIMObjectPath& path) const;
-  Zeph_SerialPort* getZeph_SerialPortWithCIMObjectPath(const OpenWBEM::CIMObjectPath& path) const;
-  Zeph_SerialPort* getZeph_SerialPortWithCIMInstance(const OpenWBEM::CIMInstance& instance) const;
+                                      OpenWBEM::CIMObjectPath& path) const {
+    toObjectPath(object, path);
+  }
+  Zeph_SerialPort* getZeph_SerialPortWithCIMObjectPath(const OpenWBEM::CIMObjectPath& path) const {
+    return lookup(path);
+  }
+  Zeph_SerialPort* getZeph_SerialPortWithCIMInstance(const OpenWBEM::CIMInstance& instance) const {
+    return lookup(instance);
+  }
 };
 
 #endif

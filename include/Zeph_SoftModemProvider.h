@@ -22,11 +22,19 @@ class Zeph_SoftModemProvider : public ras::InstanceProvider<Zeph_SoftModemTraits
   using InstanceProvider::modifyInstance;
 
   void Zeph_SoftModemToCIMInstance(const OpenWBEM::String& ns, const Zeph_SoftModem& object,
-                                   OpenWBEM::CIMInstance& instance) const;
+                                   OpenWBEM::CIMInstance& instance) const {
+    toInstance(ns, object, instance);
+  }
   void Zeph_SoftModemToCIMObjectPath(const Zeph_SoftModem& object,
-                                     OpenWBEM::CIMObjectPath& path) const;
-  Zeph_SoftModem* getZeph_SoftModemWithCIMObjectPath(const OpenWBEM::CIMObjectPath& path) const;
-  Zeph_SoftModem* getZeph_SoftModemWithCIMInstance(const OpenWBEM::CIMInstance& instance) const;
+                                     OpenWBEM::CIMObjectPath& path) const {
+    toObjectPath(object, path);
+  }
+  Zeph_SoftModem* getZeph_SoftModemWithCIMObjectPath(const OpenWBEM::CIMObjectPath& path) const {
+    return lookup(path);
+  }
+  Zeph_SoftModem* getZeph_SoftModemWithCIMInstance(const OpenWBEM::CIMInstance& instance) const {
+    return lookup(instance);
+  }
 };
 
 #endif

@@ -1,4 +1,5 @@
-// Property table of Zeph_CallInSettingData and the named helpers of its provider.
+// Property table of Zeph_CallInSettingData: the properties in instance order, keys first in key
+// order.
 #include "Zeph_CallInSettingDataProvider.h"
 
 namespace {
@@ -15,25 +16,9 @@ const ras::PropertyTable<X>& Zeph_CallInSettingDataTraits::properties() {
                     ras::range(1, 20)),
       Row::writable("AutoDisableTimer", &X::getAutoDisableTimer, &X::setAutoDisableTimer),
       Row::writable("AutoDisableFlag", &X::getAutoDisableFlag, &X::setAutoDisableFlag),
-      Row::readonly("DNNumber", &X::getDNNumber)};
+      Row::readonly("DNNumber", &X::getDNNumber),
+  };
   return table;
 }
 
 template class ras::InstanceProvider<Zeph_CallInSettingDataTraits>;
-
-void Zeph_CallInSettingDataProvider::Zeph_CallInSettingDataToCIMInstance(
-    const OpenWBEM::String& ns, const X& object, OpenWBEM::CIMInstance& instance) const {
-  toInstance(ns, object, instance);
-}
-void Zeph_CallInSettingDataProvider::Zeph_CallInSettingDataToCIMObjectPath(
-    const X& object, OpenWBEM::CIMObjectPath& path) const {
-  toObjectPath(object, path);
-}
-X* Zeph_CallInSettingDataProvider::getZeph_CallInSettingDataWithCIMObjectPath(
-    const OpenWBEM::CIMObjectPath& path) const {
-  return lookup(path);
-}
-X* Zeph_CallInSettingDataProvider::getZeph_CallInSettingDataWithCIMInstance(
-    const OpenWBEM::CIMInstance& instance) const {
-  return lookup(instance);
-}

@@ -1,4 +1,5 @@
-// Property table of Zeph_DialOutSettingData and the named helpers of its provider.
+// Property table of Zeph_DialOutSettingData: the properties in instance order, keys first in key
+// order.
 #include "Zeph_DialOutSettingDataProvider.h"
 
 namespace {
@@ -17,25 +18,9 @@ const ras::PropertyTable<X>& Zeph_DialOutSettingDataTraits::properties() {
       Row::writable("DialOutUserName", &X::getDialOutUserName, &X::setDialOutUserName,
                     ras::maxLength(32)),
       Row::writable("DialOutPassword", &X::getDialOutPassword, &X::setDialOutPassword,
-                    ras::maxLength(32))};
+                    ras::maxLength(32)),
+  };
   return table;
 }
 
 template class ras::InstanceProvider<Zeph_DialOutSettingDataTraits>;
-
-void Zeph_DialOutSettingDataProvider::Zeph_DialOutSettingDataToCIMInstance(
-    const OpenWBEM::String& ns, const X& object, OpenWBEM::CIMInstance& instance) const {
-  toInstance(ns, object, instance);
-}
-void Zeph_DialOutSettingDataProvider::Zeph_DialOutSettingDataToCIMObjectPath(
-    const X& object, OpenWBEM::CIMObjectPath& path) const {
-  toObjectPath(object, path);
-}
-X* Zeph_DialOutSettingDataProvider::getZeph_DialOutSettingDataWithCIMObjectPath(
-    const OpenWBEM::CIMObjectPath& path) const {
-  return lookup(path);
-}
-X* Zeph_DialOutSettingDataProvider::getZeph_DialOutSettingDataWithCIMInstance(
-    const OpenWBEM::CIMInstance& instance) const {
-  return lookup(instance);
-}

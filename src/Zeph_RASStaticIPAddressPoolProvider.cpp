@@ -1,4 +1,5 @@
-// Property table of Zeph_RASStaticIPAddressPool and the named helpers of its provider.
+// Property table of Zeph_RASStaticIPAddressPool: the properties in instance order, keys first in
+// key order.
 #include "Zeph_RASStaticIPAddressPoolProvider.h"
 
 namespace {
@@ -17,25 +18,9 @@ const ras::PropertyTable<X>& Zeph_RASStaticIPAddressPoolTraits::properties() {
       Row::readonly("Description", &X::getDescription),
       Row::readonly("StartAddress", &X::getStartAddress),
       Row::readonly("EndAddress", &X::getEndAddress),
-      Row::readonly("AddressType", &X::getAddressType)};
+      Row::readonly("AddressType", &X::getAddressType),
+  };
   return table;
 }
 
 template class ras::InstanceProvider<Zeph_RASStaticIPAddressPoolTraits>;
-
-void Zeph_RASStaticIPAddressPoolProvider::Zeph_RASStaticIPAddressPoolToCIMInstance(
-    const OpenWBEM::String& ns, const X& object, OpenWBEM::CIMInstance& instance) const {
-  toInstance(ns, object, instance);
-}
-void Zeph_RASStaticIPAddressPoolProvider::Zeph_RASStaticIPAddressPoolToCIMObjectPath(
-    const X& object, OpenWBEM::CIMObjectPath& path) const {
-  toObjectPath(object, path);
-}
-X* Zeph_RASStaticIPAddressPoolProvider::getZeph_RASStaticIPAddressPoolWithCIMObjectPath(
-    const OpenWBEM::CIMObjectPath& path) const {
-  return lookup(path);
-}
-X* Zeph_RASStaticIPAddressPoolProvider::getZeph_RASStaticIPAddressPoolWithCIMInstance(
-    const OpenWBEM::CIMInstance& instance) const {
-  return lookup(instance);
-}
