@@ -1,4 +1,6 @@
 // CIMObjectPath: the model-path text form, escaping, and parsing it back.
+#include <cstdlib>
+
 #include "OW_CIMClass.hpp"
 #include "OW_CIMException.hpp"
 #include "OW_CIMObjectPath.hpp"
@@ -34,21 +36,30 @@ String readQuoted(const String& text, size_t& pos) {
   throwBadPath(text);
 }
 
+// True when the whole text is a number of the kind strtoll / strtod accept.
+bool wholeNumber(const String& text, bool integer) {
+  const char* begin = text.c_str();
+  char* end = 0;
+  if (integer) {
+    String::strtoll(begin, &end, 10);
+  } else {
+    std::strtod(begin, &end);
+  }
+  return !text.empty() && end != begin && *end == '\0';
+}
+
 // Unquoted values are booleans or numbers (kept as SINT64 / REAL64) or plain text.
 CIMValue unquotedValue(const String& text) {
   if (text.equalsIgnoreCase("true") || text.equalsIgnoreCase("false")) {
     return CIMValue(text.toBool());
   }
-  try {
+  if (wholeNumber(text, true)) {
     return CIMValue(text.toInt64());
-  } catch (const StringConversionException&) {
-    // Not an integer: try a real number next.
   }
-  try {
+  if (wholeNumber(text, false)) {
     return CIMValue(text.toReal64());
-  } catch (const StringConversionException&) {
-    return CIMValue(text);
   }
+  return CIMValue(text);
 }
 
 // Parses K=V[,K=V...] starting at pos into keys of path.
