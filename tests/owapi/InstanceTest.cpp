@@ -154,6 +154,22 @@ TEST(CIMInstanceTest, CloneHonoursThePropertyList) {
   EXPECT_EQ(2u, inst.getProperties().size());
 }
 
+TEST(CIMInstanceTest, CloneDropsWhatTheFlagsExclude) {
+  CIMInstance inst("Zeph_X");
+  inst.setProperty(keyProperty("Id", CIMValue("1")));
+  inst.setProperty(CIMProperty("Inherited", CIMValue("i")).setPropagated());
+  inst.setQualifier(CIMQualifier("Description"));
+  CIMInstance local = inst.clone(E_LOCAL_ONLY, E_INCLUDE_QUALIFIERS, E_EXCLUDE_CLASS_ORIGIN, 0);
+  EXPECT_FALSE(local.getProperty("Inherited"));
+  EXPECT_TRUE(local.getProperty("Id").getQualifier("Key"));
+  EXPECT_EQ(1u, local.getQualifiers().size());
+  CIMInstance bare = inst.clone(E_NOT_LOCAL_ONLY, E_EXCLUDE_QUALIFIERS, E_EXCLUDE_CLASS_ORIGIN, 0);
+  EXPECT_TRUE(bare.getProperty("Inherited"));
+  EXPECT_FALSE(bare.getProperty("Id").getQualifier("Key"));
+  EXPECT_TRUE(bare.getQualifiers().empty());
+  EXPECT_EQ(1u, bare.getKeyValuePairs().size());
+}
+
 TEST(CIMInstanceTest, CopiesDoNotShareChanges) {
   CIMInstance a("Zeph_X");
   a.setProperty("P", CIMValue(UInt16(1)));
