@@ -9,7 +9,9 @@
 #include <vector>
 
 #include "MofSchema.hpp"
+#include "OW_Array.hpp"
 #include "OW_CIMFwd.hpp"
+#include "OW_CIMParamValue.hpp"
 #include "OW_CIMValue.hpp"
 #include "PathSyntax.hpp"
 
@@ -53,9 +55,12 @@ OpenWBEM::CIMQualifier toQualifier(const MofQualifier& qualifier);
 // parameter. A method the class does not declare fails with CIM_ERR_METHOD_NOT_FOUND, a
 // parameter it does not declare with CIM_ERR_INVALID_PARAMETER. For a class the schema does
 // not know, `in` holds the given values as strings in the given order.
-void buildMethodParams(const std::string& className, const std::string& method,
-                       const std::vector<Binding>& values, const MofSchema& schema,
-                       OpenWBEM::CIMParamValueArray& in, OpenWBEM::CIMParamValueArray& out);
+struct MethodParams {
+  OpenWBEM::CIMParamValueArray in;
+  OpenWBEM::CIMParamValueArray out;
+};
+MethodParams buildMethodParams(const std::string& className, const std::string& method,
+                               const std::vector<Binding>& values, const MofSchema& schema);
 
 }  // namespace rascim
 

@@ -27,33 +27,42 @@ const Binding* given(const std::vector<Binding>& values, const std::string& name
   return nullptr;
 }
 
+bool isInParameter(const MofMethod& m, const std::string& name) {
+  for (const MofParameter& p : m.parameters)
+    if (p.isIn() && equalsIgnoreCase(p.name, name)) return true;
+  return false;
+}
+
+const MofMethod& declaredMethod(const MofClass& cls, const std::string& method,
+                                const std::vector<Binding>& values) {
+  const MofMethod* m = cls.findMethod(method);
+  if (!m) fail(CIMException::METHOD_NOT_FOUND, kNoSuchMethod, method, cls.name);
+  for (const Binding& b : values)
+    if (!isInParameter(*m, b.name))
+      fail(CIMException::INVALID_PARAMETER, kNoSuchParameter, b.name, m->name);
+  return *m;
+}
+
 }  // namespace
 
-void buildMethodParams(const std::string& className, const std::string& method,
-                       const std::vector<Binding>& values, const MofSchema& schema,
-                       CIMParamValueArray& in, CIMParamValueArray& out) {
+MethodParams buildMethodParams(const std::string& className, const std::string& method,
+                               const std::vector<Binding>& values, const MofSchema& schema) {
+  MethodParams params;
   const MofClass* cls = schema.findClass(className);
   if (!cls) {
     for (const Binding& b : values)
-      in.push_back(CIMParamValue(CIMName(b.name.c_str()), untypedValue(b.value)));
-    return;
+      params.in.push_back(CIMParamValue(CIMName(b.name.c_str()), untypedValue(b.value)));
+    return params;
   }
-  const MofMethod* m = cls->findMethod(method);
-  if (!m) fail(CIMException::METHOD_NOT_FOUND, kNoSuchMethod, method, cls->name);
-  for (const Binding& b : values) {
-    const MofParameter* p = nullptr;
-    for (const MofParameter& candidate : m->parameters)
-      if (candidate.isIn() && equalsIgnoreCase(candidate.name, b.name)) p = &candidate;
-    if (!p) fail(CIMException::INVALID_PARAMETER, kNoSuchParameter, b.name, m->name);
-  }
-  for (const MofParameter& p : m->parameters) {
+  for (const MofParameter& p : declaredMethod(*cls, method, values).parameters) {
     const Binding* b = given(values, p.name);
     if (p.isIn())
-      in.push_back(
+      params.in.push_back(
           b ? CIMParamValue(CIMName(p.name.c_str()), typedValue(b->value, p.type, schema, p.name))
             : CIMParamValue(CIMName(p.name.c_str())));
-    if (p.isOut()) out.push_back(CIMParamValue(CIMName(p.name.c_str())));
+    if (p.isOut()) params.out.push_back(CIMParamValue(CIMName(p.name.c_str())));
   }
+  return params;
 }
 
 }  // namespace rascim

@@ -48,9 +48,34 @@ const char kExitStatus[] =
     "request; 3 what the module returned disagrees with the schema; 4 the module could not\n"
     "be loaded or initialised. In a batch, the status of the first operation that failed.\n";
 
-std::string valueOf(int argc, const char* const* argv, int& i) {
-  if (i + 1 >= argc) throw std::invalid_argument(std::string(argv[i]) + " needs a value");
-  return argv[++i];
+// The options that take a value, and where it goes.
+struct ValueOption {
+  const char* name;
+  const char* shortName;
+  std::string Options::*member;
+};
+
+const ValueOption kValueOptions[] = {
+    {"--module", nullptr, &Options::modulePath},     {"--mof", nullptr, &Options::mofPath},
+    {"--accounts", nullptr, &Options::accountsFile}, {"--namespace", "-n", &Options::nameSpace},
+    {"--log", nullptr, &Options::logFile},           {"--log-level", nullptr, &Options::logLevel},
+    {"--batch", nullptr, &Options::batchFile}};
+
+// Takes the option argv[i], and its value when it has one.
+void takeOption(int argc, const char* const* argv, int& i, Options& o) {
+  const std::string opt = argv[i];
+  for (const ValueOption& v : kValueOptions) {
+    if (opt != v.name && (!v.shortName || opt != v.shortName)) continue;
+    if (i + 1 >= argc) throw std::invalid_argument(opt + " needs a value");
+    o.*v.member = argv[++i];
+    return;
+  }
+  if (opt == "--json")
+    o.json = true;
+  else if (opt == "-h" || opt == "--help")
+    o.help = true;
+  else
+    throw std::invalid_argument("unknown option " + opt + " (see --help)");
 }
 
 }  // namespace
@@ -63,29 +88,8 @@ Options parseOptions(int argc, const char* const* argv) {
   o.nameSpace = kDefaultNamespace;
   o.logLevel = kDefaultLogLevel;
   int i = 1;
-  for (; i < argc && argv[i][0] == '-' && std::string(argv[i]) != kStdin; ++i) {
-    const std::string opt = argv[i];
-    if (opt == "--module")
-      o.modulePath = valueOf(argc, argv, i);
-    else if (opt == "--mof")
-      o.mofPath = valueOf(argc, argv, i);
-    else if (opt == "--accounts")
-      o.accountsFile = valueOf(argc, argv, i);
-    else if (opt == "-n" || opt == "--namespace")
-      o.nameSpace = valueOf(argc, argv, i);
-    else if (opt == "--log")
-      o.logFile = valueOf(argc, argv, i);
-    else if (opt == "--log-level")
-      o.logLevel = valueOf(argc, argv, i);
-    else if (opt == "--batch")
-      o.batchFile = valueOf(argc, argv, i);
-    else if (opt == "--json")
-      o.json = true;
-    else if (opt == "-h" || opt == "--help")
-      o.help = true;
-    else
-      throw std::invalid_argument("unknown option " + opt + " (see --help)");
-  }
+  for (; i < argc && argv[i][0] == '-' && std::string(argv[i]) != kStdin; ++i)
+    takeOption(argc, argv, i, o);
   if (i < argc && std::string(argv[i]) == kStdin && o.batchFile.empty()) {
     o.batchFile = kStdin;
     ++i;

@@ -43,10 +43,17 @@ std::string padded(const std::string& s, size_t width) {
   return s + std::string(width > s.size() ? width - s.size() : 0, ' ');
 }
 
-void printNamedValue(std::ostream& out, const std::string& name, size_t width,
-                     const std::string& type, const CIMValue& value, const std::string& tail) {
-  out << "    " << padded(name, width) << "  " << padded(type, 8) << " = " << valueText(value)
-      << tail << '\n';
+// One line: name (padded to the longest of its block), CIM type, value, qualifiers.
+struct Line {
+  std::string name;
+  std::string type;
+  CIMValue value;
+  std::string qualifiers;
+};
+
+void printLine(std::ostream& out, const Line& line, size_t width) {
+  out << "    " << padded(line.name, width) << "  " << padded(line.type, 8) << " = "
+      << valueText(line.value) << line.qualifiers << '\n';
 }
 
 void printInstance(const CIMInstance& inst, const MofSchema& schema, std::ostream& out) {
@@ -55,18 +62,20 @@ void printInstance(const CIMInstance& inst, const MofSchema& schema, std::ostrea
   size_t width = 0;
   for (size_t i = 0; i < props.size(); ++i) width = std::max(width, props[i].getName().length());
   for (size_t i = 0; i < props.size(); ++i)
-    printNamedValue(out, props[i].getName().c_str(), width, typeName(props[i].getDataType()),
-                    props[i].getValue(), qualifiersText(props[i].getQualifiers()));
+    printLine(out,
+              Line{props[i].getName().c_str(), typeName(props[i].getDataType()),
+                   props[i].getValue(), qualifiersText(props[i].getQualifiers())},
+              width);
 }
 
 void printMethodResult(const Outcome& o, std::ostream& out) {
   size_t width = sizeof kReturnValue - 1;
   for (size_t i = 0; i < o.outParams.size(); ++i)
     width = std::max(width, o.outParams[i].getName().length());
-  printNamedValue(out, kReturnValue, width, valueTypeName(o.returnValue), o.returnValue, "");
+  printLine(out, Line{kReturnValue, valueTypeName(o.returnValue), o.returnValue, ""}, width);
   for (size_t i = 0; i < o.outParams.size(); ++i) {
     const CIMValue v = o.outParams[i].getValue();
-    printNamedValue(out, o.outParams[i].getName().c_str(), width, valueTypeName(v), v, "");
+    printLine(out, Line{o.outParams[i].getName().c_str(), valueTypeName(v), v, ""}, width);
   }
 }
 

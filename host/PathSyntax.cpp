@@ -85,6 +85,65 @@ std::string withoutUrl(const std::string& text) {
   return text.substr(slash);
 }
 
+// Shell-like word splitting of one batch line.
+class WordSplitter {
+ public:
+  explicit WordSplitter(const std::string& line) : s_(line) {}
+
+  std::vector<std::string> all() {
+    for (; i_ < s_.size(); ++i_) {
+      const char c = s_[i_];
+      if (std::isspace(static_cast<unsigned char>(c))) {
+        endWord();
+      } else if (c == '#' && !inWord_) {
+        break;
+      } else {
+        inWord_ = true;
+        take(c);
+      }
+    }
+    endWord();
+    return words_;
+  }
+
+ private:
+  void endWord() {
+    if (inWord_) words_.push_back(word_);
+    word_.clear();
+    inWord_ = false;
+  }
+
+  void take(char c) {
+    if (c == '\'') {
+      const size_t end = s_.find('\'', i_ + 1);
+      if (end == std::string::npos) throw SyntaxError("unterminated ' in: " + s_);
+      word_ += s_.substr(i_ + 1, end - i_ - 1);
+      i_ = end;
+    } else if (c == '"') {
+      takeDoubleQuoted();
+    } else if (c == '\\' && i_ + 1 < s_.size()) {
+      word_ += s_[++i_];
+    } else {
+      word_ += c;
+    }
+  }
+
+  // Inside double quotes only \" and \\ are escapes.
+  void takeDoubleQuoted() {
+    for (++i_; i_ < s_.size() && s_[i_] != '"'; ++i_) {
+      if (s_[i_] == '\\' && i_ + 1 < s_.size() && (s_[i_ + 1] == '"' || s_[i_ + 1] == '\\')) ++i_;
+      word_ += s_[i_];
+    }
+    if (i_ >= s_.size()) throw SyntaxError("unterminated \" in: " + s_);
+  }
+
+  const std::string& s_;
+  size_t i_ = 0;
+  bool inWord_ = false;
+  std::string word_;
+  std::vector<std::string> words_;
+};
+
 }  // namespace
 
 PathText parsePath(const std::string& text) {
@@ -108,39 +167,7 @@ std::vector<Binding> parseBindings(const std::string& text) {
 }
 
 std::vector<std::string> splitWords(const std::string& line) {
-  std::vector<std::string> words;
-  std::string word;
-  bool inWord = false;
-  for (size_t i = 0; i < line.size(); ++i) {
-    const char c = line[i];
-    if (std::isspace(static_cast<unsigned char>(c))) {
-      if (inWord) words.push_back(word);
-      word.clear();
-      inWord = false;
-      continue;
-    }
-    if (c == '#' && !inWord) break;
-    inWord = true;
-    if (c == '\'') {
-      const size_t end = line.find('\'', i + 1);
-      if (end == std::string::npos) throw SyntaxError("unterminated ' in: " + line);
-      word += line.substr(i + 1, end - i - 1);
-      i = end;
-    } else if (c == '"') {
-      for (++i; i < line.size() && line[i] != '"'; ++i) {
-        if (line[i] == '\\' && i + 1 < line.size() && (line[i + 1] == '"' || line[i + 1] == '\\'))
-          ++i;
-        word += line[i];
-      }
-      if (i >= line.size()) throw SyntaxError("unterminated \" in: " + line);
-    } else if (c == '\\' && i + 1 < line.size()) {
-      word += line[++i];
-    } else {
-      word += c;
-    }
-  }
-  if (inWord) words.push_back(word);
-  return words;
+  return WordSplitter(line).all();
 }
 
 std::string quoteValue(const std::string& text) {

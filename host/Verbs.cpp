@@ -123,10 +123,9 @@ void runCm(VerbContext& c, const Words& a, Outcome& o) {
   std::vector<Binding> values =
       dot == std::string::npos ? std::vector<Binding>() : parseBindings(a[1].substr(dot + 1));
   for (Binding& b : bindingsOf(a, 2)) values.push_back(std::move(b));
-  CIMParamValueArray in, out;
-  buildMethodParams(t.text.className, method, values, c.schema, in, out);
-  o.returnValue = c.cimom.invokeMethod(t.ns, t.path, method.c_str(), in, out);
-  o.outParams = out;
+  MethodParams params = buildMethodParams(t.text.className, method, values, c.schema);
+  o.returnValue = c.cimom.invokeMethod(t.ns, t.path, method.c_str(), params.in, params.out);
+  o.outParams = params.out;
   o.shape = Outcome::kMethodResult;
   o.schemaErrors = checkReturn(t.text.className, method, o.returnValue, c.schema);
 }

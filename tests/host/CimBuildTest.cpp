@@ -89,17 +89,17 @@ TEST_F(CimBuildTest, UndeclaredNamesFailAsACimomWould) {
     EXPECT_EQ(e.getErrNo(), CIMException::NO_SUCH_PROPERTY);
     EXPECT_STREQ(e.getFile(), "ras-cim");
   }
-  CIMParamValueArray in, out;
-  EXPECT_THROW(rascim::buildMethodParams("Zeph_T", "Stop", {}, schema, in, out), CIMException);
-  EXPECT_THROW(rascim::buildMethodParams("Zeph_T", "Go", rascim::parseBindings("Log=\"x\""), schema,
-                                         in, out),
-               CIMException);
+  EXPECT_THROW(rascim::buildMethodParams("Zeph_T", "Stop", {}, schema), CIMException);
+  EXPECT_THROW(
+      rascim::buildMethodParams("Zeph_T", "Go", rascim::parseBindings("Log=\"x\""), schema),
+      CIMException);
 }
 
 TEST_F(CimBuildTest, MethodParametersComeInDeclarationOrder) {
-  CIMParamValueArray in, out;
-  rascim::buildMethodParams("Zeph_T", "go", rascim::parseBindings("Mode=-2,Delay=5"), schema, in,
-                            out);
+  const rascim::MethodParams params =
+      rascim::buildMethodParams("Zeph_T", "go", rascim::parseBindings("Mode=-2,Delay=5"), schema);
+  const CIMParamValueArray& in = params.in;
+  const CIMParamValueArray& out = params.out;
   ASSERT_EQ(in.size(), 2u);
   EXPECT_EQ(in[0].getName(), "Delay");
   EXPECT_EQ(in[0].getValue().getType(), CIMDataType::UINT16);
