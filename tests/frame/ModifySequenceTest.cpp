@@ -258,7 +258,6 @@ TEST_F(CallInProviderTest, DefaultManagerRefusesCreateAndDeleteAndMethodsAreUnkn
               provider_.invokeMethod(env_, kNs, path, "ConnectLink", CIMParamValueArray(), out);
             }),
             (CimFailure{CIMException::METHOD_NOT_FOUND, kSource, 432, std::nullopt}));
-  Zeph_CallInSettingData::SetInstanceManager(&manager_);
 }
 
 TEST(DialOutSettingsProvider, TextLongerThan32CharactersIsRefusedBeforeTheSetter) {
