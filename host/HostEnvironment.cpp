@@ -2,6 +2,7 @@
 #include "HostEnvironment.hpp"
 
 #include "OW_Array.hpp"
+#include "OW_RepositoryIFC.hpp"
 
 using namespace OpenWBEM;
 
