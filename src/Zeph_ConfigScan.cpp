@@ -3,6 +3,7 @@
 // loop that finds and scans the lines that begin with a key.
 #include "Zeph_ConfigScan.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "Zeph_PlatformLog.h"
@@ -54,21 +55,28 @@ bool parseConversion(const char* p, Conversion& conv) {
   return true;
 }
 
+bool boundIntConversion(const Conversion& conv, std::string& out) {
+  if (conv.body != "d" && conv.body != "i") return false;
+  out += "%" + (conv.width ? std::to_string(conv.width) : std::string()) + conv.body;
+  return true;
+}
+
+// A text conversion gets at most the buffer's room; "%s" and "%[" without a width get all of it.
+bool boundTextConversion(const Conversion& conv, std::size_t bufferSize, std::string& out) {
+  const char letter = conv.body[0];
+  if (letter != 's' && letter != '[' && letter != 'c') return false;
+  const std::size_t fallback = letter == 'c' ? 1 : bufferSize - 1;
+  const std::size_t width = std::min(conv.width ? conv.width : fallback, bufferSize - 1);
+  out += "%" + std::to_string(width) + conv.body;
+  return true;
+}
+
 // The text of a storing conversion bounded for `target`, or false when it does not fit it.
 bool boundConversion(const Conversion& conv, ScanTarget target, std::size_t bufferSize,
                      std::string& out) {
   if (!conv.length.empty() || bufferSize < 2) return false;
-  const char letter = conv.body[0];
-  if (target == ScanTarget::Int) {
-    if (letter != 'd' && letter != 'i') return false;
-    out += "%" + (conv.width ? std::to_string(conv.width) : std::string()) + conv.body;
-    return true;
-  }
-  if (letter != 's' && letter != '[' && letter != 'c') return false;
-  std::size_t width = conv.width ? conv.width : (letter == 'c' ? 1 : bufferSize - 1);
-  if (width > bufferSize - 1) width = bufferSize - 1;
-  out += "%" + std::to_string(width) + conv.body;
-  return true;
+  return target == ScanTarget::Int ? boundIntConversion(conv, out)
+                                   : boundTextConversion(conv, bufferSize, out);
 }
 
 }  // namespace
