@@ -5,6 +5,7 @@
 #define PLATFORM_ACCESS_TESTSUPPORT_H
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -68,12 +69,14 @@ class ScopedLogRecorder {
 class ScratchTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    dir_ = std::filesystem::current_path() / "platform_access_scratch" /
+    // Not under the build tree: a checkout may itself lie under /tmp.
+    dir_ = std::filesystem::path("/var/tmp") /
+           ("platform_access_scratch." + std::to_string(::getpid())) /
            ::testing::UnitTest::GetInstance()->current_test_info()->name();
     std::filesystem::remove_all(dir_);
     std::filesystem::create_directories(dir_);
   }
-  void TearDown() override { std::filesystem::remove_all(dir_); }
+  void TearDown() override { std::filesystem::remove_all(dir_.parent_path()); }
 
   std::string path(const std::string& name) const { return (dir_ / name).string(); }
   // Writes `content` to a scratch file and returns its path.
