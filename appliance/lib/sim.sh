@@ -131,6 +131,9 @@ sim_reg_put() {
   _dir=$(dirname "$SIM_REGISTRY")
   mkdir -p "$_dir"
   sim_touch "$SIM_REGISTRY"
+  # The platform library serialises writers with an flock on this file; so do we.
+  (
+  flock 9
   _tmp=$(mktemp "$_dir/.registry.XXXXXX")
   # The value goes through the environment: awk -v would interpret backslashes.
   REG_VALUE=${2-} awk -v g="[$_group]" -v n="$_name" -v set="$#" '
@@ -141,10 +144,13 @@ sim_reg_put() {
     { print }
     END { flush(); if (set == 2 && !seen) { print g; print n "=" v } }' \
     "$SIM_REGISTRY" >"$_tmp" && mv "$_tmp" "$SIM_REGISTRY"
+  ) 9>"$SIM_REGISTRY.lock"
 }
 
 # Grants (1) or revokes (0) privilege PRIV of KIND to USERID.
 sim_priv_put() {
+  (
+  flock 9
   _tmp=$(mktemp "$(dirname "$SIM_REGISTRY")/.registry.XXXXXX")
   awk -v on="$1" -v line="$4 $2 $3" '
     function flush() { if (in_priv && on && !done) { print line; done = 1 } }
@@ -153,4 +159,5 @@ sim_priv_put() {
     { print }
     END { flush(); if (on && !seen) { print "[privileges]"; print line } }' \
     "$SIM_REGISTRY" >"$_tmp" && mv "$_tmp" "$SIM_REGISTRY"
+  ) 9>"$SIM_REGISTRY.lock"
 }
