@@ -1,0 +1,285 @@
+// Dial-out settings: the number in the dial-out connect script, the call-back retries and
+// interval in the call-back script, the dial-out account in the dial-out options and its
+// secret in the PAP and CHAP secrets files; the accounts offered are the CIMOM's Zeph_Account
+// instances whose users may dial out.
+#include "Zeph_DialOutSettingDataImpl.h"
+
+#include <cctype>
+#include <cstdio>
+#include <cstdlib>
+
+#include "OW_CIMInstance.hpp"
+#include "OW_CIMProperty.hpp"
+#include "OW_CIMQualifier.hpp"
+#include "OW_CIMValue.hpp"
+#include "QvlShared.h"
+#include "Zeph_CommandRunner.h"
+#include "Zeph_ImpactWarning.h"
+#include "Zeph_ModuleGlobals.h"
+#include "Zeph_PlatformAccess.h"
+#include "Zeph_PlatformLog.h"
+
+OpenWBEM::StringArray vUserName;
+OpenWBEM::StringArray UserValueMap;
+std::vector<std::string> UserNames;
+
+namespace {
+
+const char* const kInstanceID = "Velmar:Zeph_DialOutSettingData";
+const char* const kElementName = "Dial-Out Settings";
+
+const char* const kCallScript = "/qv/etc/ppp/ppp_call_v2k";
+const char* const kCallbackScript = "/qv/etc/ppp/callback_v2k";
+const char* const kDialOutOptions = "/qv/etc/ppp/options_dialout";
+const char* const kPapSecrets = "/etc/ppp/pap-secrets";
+const char* const kChapSecrets = "/etc/ppp/chap-secrets";
+const char* const kPasswordFile = "/tmp/passwd";
+const char* const kSed = "/bin/sed";
+const char* const kSetLineScript = "/opt/etc/RasProviderScripts/setLine";
+const char* const kDialOutSuffix = "_dialout";
+const char* const kAddPasswordScript = "/opt/etc/RasProviderScripts/addPassword";
+
+const char* const kNumberFormat = "declare TELEPHONE_NUMBER=\"%s";
+const char* const kDelayFormat = "declare CALLBACK_DELAY=\"%d\"";
+const char* const kRetryFormat = "declare CALLBACK_RETRY=\"%d\"";
+const char* const kUserFormat = "name %s";
+const char* const kQuotedFormat = "\"%s";
+
+const char* const kCmdSetNumber =
+    "%s -i '/^declare TELEPHONE_NUMBER/ c declare TELEPHONE_NUMBER=\"%s\"' %s";
+const char* const kCmdSetRetries =
+    "%s -i '/^declare CALLBACK_RETRY/ c declare CALLBACK_RETRY=\"%d\"' %s";
+const char* const kCmdSetDelay =
+    "%s -i '/^declare CALLBACK_DELAY/ c declare CALLBACK_DELAY=\"%d\"' %s";
+const char* const kCmdReadPassword = "grep \"\\\"\\<%s\\>\" %s | cut -f3 > /tmp/passwd";
+const char* const kCmdSetUser = "%s name %s";
+const char* const kCmdAddPassword = "%s %s %s %s %s";
+
+const char* const kAccountNamespace = "root/cimv2";
+const char* const kAccountClass = "Zeph_Account";
+const char* const kAccountName = "Name";
+const char* const kAccountUserId = "TextualUserID";
+const char* const kValueMap = "ValueMap";
+const char* const kValues = "Values";
+constexpr int kPrivilegeKind = 1;
+constexpr int kDialOutPrivilege = 11;
+
+const char* const kLogNumber = "DialOutNumber =%s\n";
+const char* const kLogInterval = "Config DialInterval =%d\n";
+const char* const kLogRetries = "Dial iRetries =%d\n";
+const char* const kLogReadingAccounts = "Reading Zeph_Account";
+const char* const kTraceGetUser = "Zeph_DialOutAccountImpl::getDialOutUserName\n";
+const char* const kLogUserCount = "Out Value in get Number of Users is %d";
+const char* const kLogSelected = "The Selected Value is %s";
+
+// Statuses of the setters, reported to the client as RAS_MODEM_<status>.
+constexpr int kStatusRetriesOutOfRange = 2;
+constexpr int kStatusIntervalOutOfRange = 3;
+constexpr int kStatusNumberTooLong = 15;
+constexpr int kStatusNumberNotDigits = 16;
+
+constexpr std::size_t kMaxNumberDigits = 25;
+constexpr unsigned short kMinRetries = 1;
+constexpr unsigned short kMaxRetries = 10;
+constexpr unsigned short kMinInterval = 1;
+constexpr unsigned short kMaxInterval = 299;
+
+std::string withNumber(const char* format, int value) {
+  char text[128];
+  std::snprintf(text, sizeof text, format, value);
+  return text;
+}
+
+std::string withText(const char* format, const std::string& value) {
+  char text[1024];
+  std::snprintf(text, sizeof text, format, value.c_str());
+  return text;
+}
+
+// A value scanned with a format ending in "%s" keeps its closing quote; this removes it.
+void cutClosingQuote(std::string& value) {
+  if (!value.empty()) value.pop_back();
+}
+
+// The number's check: digits only, at most 25 of them.
+int checkNumber(const std::string& number) {
+  for (std::size_t i = 0;; ++i) {
+    if (i == number.size()) return ras::kStatusOk;
+    if (i == kMaxNumberDigits) return kStatusNumberTooLong;
+    if (!std::isdigit(static_cast<unsigned char>(number[i]))) return kStatusNumberNotDigits;
+  }
+}
+
+std::string textOf(const OpenWBEM::CIMValue& value) {
+  return value ? std::string(value.toString().c_str()) : std::string();
+}
+
+// Adds the account to the list when its user holds the dial-out privilege.
+void admitAccount(const OpenWBEM::CIMInstance& account, int& count) {
+  if (!account.getProperty(kAccountName)) return;
+  const int userId = std::atoi(textOf(account.getPropertyValue(kAccountName)).c_str());
+  if (QvlAuthCheckPriv(kPrivilegeKind, userId, kDialOutPrivilege) != 0) return;
+  vUserName.push_back(textOf(account.getPropertyValue(kAccountUserId)).c_str());
+  char index[16] = {};
+  itoa(count, index);
+  UserValueMap.push_back(index);
+  ++count;
+}
+
+// Fills vUserName and UserValueMap from the CIMOM's accounts; the number admitted.
+int readAccounts() {
+  int count = 0;
+  platformLogDebug(kLogReadingAccounts);
+  if (!hdl) return count;
+  const OpenWBEM::CIMInstanceArray accounts =
+      hdl->enumInstancesA(kAccountNamespace, kAccountClass, OpenWBEM::WBEMFlags::E_DEEP,
+                          OpenWBEM::WBEMFlags::E_NOT_LOCAL_ONLY);
+  for (const OpenWBEM::CIMInstance& account : accounts) admitAccount(account, count);
+  return count;
+}
+
+void appendQualifier(ras::Qualifiers& qualifiers, const char* name,
+                     const OpenWBEM::StringArray& values) {
+  OpenWBEM::CIMQualifier qualifier(name);
+  qualifier.setValue(OpenWBEM::CIMValue(values));
+  qualifiers.push_back(qualifier);
+}
+
+// The user-name setter's index as atoi reads it, or -1 when it names no entry of the list.
+long userIndex(const std::string& text) {
+  const long index = std::strtol(text.c_str(), nullptr, 10);
+  if (index < 0 || index >= static_cast<long>(UserNames.size())) return -1;
+  return index;
+}
+
+}  // namespace
+
+Zeph_DialOutSettingDataImpl::Zeph_DialOutSettingDataImpl(const std::string& instanceID)
+    : Zeph_DialOutSettingData(instanceID) {
+  Initialize_Parameters();
+}
+
+void Zeph_DialOutSettingDataImpl::Initialize_Parameters() {
+  getConfigParameter(kCallScript, kNumberFormat, &dialOutNumber_);
+  cutClosingQuote(dialOutNumber_);
+  platformLogDebug(withText(kLogNumber, dialOutNumber_));
+  int interval = 0;
+  getConfigParameter(kCallbackScript, kDelayFormat, &interval);
+  dialInterval_ = static_cast<unsigned short>(interval);
+  platformLogDebug(withNumber(kLogInterval, interval));
+  int retries = 0;
+  getConfigParameter(kCallbackScript, kRetryFormat, &retries);
+  dialRetries_ = static_cast<unsigned short>(retries);
+  platformLogDebug(withNumber(kLogRetries, retries));
+  initializePassword();
+}
+
+// The password is the third field of the user's line in the PAP secrets, in double quotes.
+void Zeph_DialOutSettingDataImpl::initializePassword() {
+  runCommand(kCmdReadPassword, {userName_, kPapSecrets});
+  std::string password;
+  getConfigParameter(kPasswordFile, kQuotedFormat, &password);
+  cutClosingQuote(password);
+  password_ = password;
+}
+
+int Zeph_DialOutSettingDataImpl::getElementName(std::string& value, ras::Qualifiers&) const {
+  value = kElementName;
+  return ras::kStatusOk;
+}
+
+int Zeph_DialOutSettingDataImpl::getDialOutNumber(std::string& value,
+                                                  ras::Qualifiers& qualifiers) const {
+  value = dialOutNumber_;
+  ShowWarningMessage(qualifiers);
+  return ras::kStatusOk;
+}
+
+int Zeph_DialOutSettingDataImpl::setDialOutNumber(std::string value) {
+  const int status = checkNumber(value);
+  if (status != ras::kStatusOk) return status;
+  runCommand(kCmdSetNumber, {kSed, value, kCallScript});
+  dialOutNumber_ = value;
+  Restart_ppp_add_v2k();
+  return ras::kStatusOk;
+}
+
+int Zeph_DialOutSettingDataImpl::getDialRetries(unsigned short& value, ras::Qualifiers&) const {
+  value = dialRetries_;
+  return ras::kStatusOk;
+}
+
+int Zeph_DialOutSettingDataImpl::setDialRetries(unsigned short value) {
+  if (value < kMinRetries || value > kMaxRetries) return kStatusRetriesOutOfRange;
+  runCommand(kCmdSetRetries, {kSed, static_cast<int>(value), kCallbackScript});
+  dialRetries_ = value;
+  return ras::kStatusOk;
+}
+
+int Zeph_DialOutSettingDataImpl::getDialInterval(unsigned short& value, ras::Qualifiers&) const {
+  value = dialInterval_;
+  return ras::kStatusOk;
+}
+
+int Zeph_DialOutSettingDataImpl::setDialInterval(unsigned short value) {
+  unsigned short current = 0;
+  ras::Qualifiers unused;
+  getDialInterval(current, unused);
+  if (value < kMinInterval || value > kMaxInterval) return kStatusIntervalOutOfRange;
+  runCommand(kCmdSetDelay, {kSed, static_cast<int>(value), kCallbackScript});
+  dialInterval_ = value;
+  return ras::kStatusOk;
+}
+
+// The index of the dial-out options' "name" user in the list of accounts that may dial out;
+// the qualifiers carry the list ("ValueMap": the indices, "Values": the user names).
+int Zeph_DialOutSettingDataImpl::getDialOutUserName(std::string& value,
+                                                    ras::Qualifiers& qualifiers) const {
+  const int count = readAccounts();
+  appendQualifier(qualifiers, kValueMap, UserValueMap);
+  appendQualifier(qualifiers, kValues, vUserName);
+  std::string current;
+  getConfigParameter(kDialOutOptions, kUserFormat, &current);
+  value = "0";
+  for (int i = 0; i < count; ++i) {
+    const std::string name = vUserName[i].c_str();
+    UserNames.insert(UserNames.begin() + i, name);
+    if (name == current) value = std::to_string(i);
+  }
+  vUserName.clear();
+  UserValueMap.clear();
+  platformLogDebug(kTraceGetUser);
+  platformLogDebug(withNumber(kLogUserCount, count));
+  return ras::kStatusOk;
+}
+
+// Selects the user by its index in the list of the last get; an index outside that list
+// names no account and is refused.
+int Zeph_DialOutSettingDataImpl::setDialOutUserName(std::string value) {
+  const long index = userIndex(value);
+  if (index < 0) return ras::kStatusInvalidValue;
+  const std::string script = std::string(kSetLineScript) + kDialOutSuffix;
+  runCommand(kCmdSetUser, {script, UserNames[index]});
+  platformLogDebug(withText(kLogSelected, value));
+  userName_ = value;
+  Restart_ppp_add_v2k();
+  return ras::kStatusOk;
+}
+
+int Zeph_DialOutSettingDataImpl::getDialOutPassword(std::string& value, ras::Qualifiers&) const {
+  value = password_;
+  return ras::kStatusOk;
+}
+
+int Zeph_DialOutSettingDataImpl::setDialOutPassword(std::string value) {
+  for (const char* secrets : {kPapSecrets, kChapSecrets}) {
+    runCommand(kCmdAddPassword, {kAddPasswordScript, userName_, password_, value, secrets});
+  }
+  password_ = value;
+  return ras::kStatusOk;
+}
+
+int Zeph_DialOutSettingDataImplInstanceManager::init() {
+  new Zeph_DialOutSettingDataImpl(kInstanceID);
+  return ras::kStatusOk;
+}
