@@ -6,12 +6,14 @@
 #include "Zeph_ClassNames.h"
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_RASService.h"
+#include "Zeph_RASServiceImpl.h"
 
 struct Zeph_RASServiceTraits : ras::ClassTraits<Zeph_RASService, Zeph_RASServiceInstanceManager> {
   static constexpr const char* kClass = Zeph_RASServiceName;
   static constexpr const char* kSource = "../src/Zeph_RASServiceProvider";
   static constexpr auto kCreate = &Manager::createZeph_RASService;
   static constexpr auto kDestroy = &Manager::destroyZeph_RASService;
+  using ImplManager = Zeph_RASServiceImplInstanceManager;
   static const ras::PropertyTable<Wrapper>& properties();
 };
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 #include "CimFailure.h"
@@ -53,8 +54,19 @@ class ProviderContract : public ::testing::Test {
   using Provider = typename Case::Provider;
   using W = typename Provider::W;
 
-  // The provider installs a fresh, empty manager of its class.
-  void SetUp() override { provider_.initialize(env_); }
+  // The provider installs a fresh, empty manager of its class. A class that has an
+  // implementation gets its abstract manager instead, so the frame's part is what is checked.
+  void SetUp() override {
+    if constexpr (std::is_same_v<typename Provider::Traits::ImplManager,
+                                 typename Provider::Traits::Manager>) {
+      provider_.initialize(env_);
+    } else {
+      W::SetInstanceManager(&abstractManager_);
+    }
+  }
+  void TearDown() override {
+    if (W::getInstanceManager() == &abstractManager_) W::ClearInstanceManager();
+  }
 
   template <std::size_t... I>
   static std::unique_ptr<W> bareWrapper(std::index_sequence<I...>) {
@@ -83,6 +95,7 @@ class ProviderContract : public ::testing::Test {
 
   TestEnvRef env_ = TestEnvironment::make();
   Provider provider_;
+  typename Provider::M abstractManager_;
 };
 
 using Cases = ::testing::Types<ProviderCase<Zeph_CallInSettingDataProvider, kCallIn>,

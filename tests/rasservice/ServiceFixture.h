@@ -1,0 +1,201 @@
+// The RAS service as a CIMOM reaches it, inside a fresh simulated appliance: the module's
+// dispatcher initialised, a logger that the platform thread may share, and the command
+// lines, gate lines and registry values the tests compare.
+#ifndef RASSERVICE_SERVICEFIXTURE_H
+#define RASSERVICE_SERVICEFIXTURE_H
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "ApplianceTest.h"
+#include "OW_CIMClass.hpp"
+#include "OW_CIMInstance.hpp"
+#include "OW_CIMObjectPath.hpp"
+#include "OW_CIMProperty.hpp"
+#include "OW_CIMQualifier.hpp"
+#include "OW_CIMValue.hpp"
+#include "OW_LogMessage.hpp"
+#include "OW_Logger.hpp"
+#include "OW_ResultHandlers.hpp"
+#include "QvlStandIn.h"
+#include "TestEnvironment.h"
+#include "Zeph_ModuleGlobals.h"
+#include "Zeph_RASProvider.h"
+
+using Lines = std::vector<std::string>;
+
+// Records "CATEGORY|text" lines under a lock: the registry callback logs from its own thread.
+class LockedLogger : public OpenWBEM::Logger {
+ public:
+  LockedLogger() : Logger("rasservice_test", OpenWBEM::E_DEBUG_LEVEL) {}
+  Lines lines() const {
+    std::lock_guard<std::mutex> lock(mutex_);
+    return lines_;
+  }
+
+ protected:
+  void doProcessLogMessage(const OpenWBEM::LogMessage& message) const override {
+    std::lock_guard<std::mutex> lock(mutex_);
+    lines_.push_back(std::string(message.category.c_str()) + "|" + message.message.c_str());
+  }
+  OpenWBEM::LoggerRef doClone() const override { return new LockedLogger(); }
+
+ private:
+  mutable std::mutex mutex_;
+  mutable Lines lines_;
+};
+
+namespace service {
+
+inline const char* const kDialIn = "/qv/etc/ppp/mgetty_v2k";
+inline const char* const kDialOut = "/qv/etc/ppp/ppp_add_v2k";
+inline const std::string kOpen = "#$IF_ENABLE_CMD", kClosed = "$IF_ENABLE_CMD";
+inline const std::string kListAll = "/sbin/ifconfig | grep \"ppp\" > /tmp/ifout ";
+inline const std::string kKillChat = "killall -9 chat", kKillMgetty = "killall -9 mgetty";
+inline const std::string kSource = "../src/Zeph_RASServiceProvider";
+
+inline std::string hangup(const std::string& iface) {
+  return "/qv/etc/ppp/ppp_hup_v2k " + iface;
+}
+inline std::string gateEdit(const std::string& to, const char* script) {
+  return "/bin/sed -i 's/#\\?$IF_ENABLE_CMD/" + to + "/' " + script;
+}
+// "/usr/bin/killall -s CONT NAME\n": the journal shows the command and an empty line.
+inline Lines resume(const char* script, const std::string& process) {
+  return {gateEdit(kOpen, script), "/usr/bin/killall -s CONT " + process, ""};
+}
+inline Lines joined(std::initializer_list<Lines> parts) {
+  Lines all;
+  for (const Lines& part : parts) all.insert(all.end(), part.begin(), part.end());
+  return all;
+}
+// True when `all` is `first` and `second` merged, each in its own order: the change callback
+// runs on the platform's thread while a set may still be running its own commands.
+inline bool isInterleaving(const Lines& all, const Lines& first, const Lines& second) {
+  if (all.size() != first.size() + second.size()) return false;
+  std::vector<std::vector<bool>> reach(first.size() + 1, std::vector<bool>(second.size() + 1));
+  reach[0][0] = true;
+  for (std::size_t i = 0; i <= first.size(); ++i) {
+    for (std::size_t j = 0; j <= second.size(); ++j) {
+      if (i == 0 && j == 0) continue;
+      const std::string& line = all[i + j - 1];
+      reach[i][j] = (i > 0 && reach[i - 1][j] && first[i - 1] == line) ||
+                    (j > 0 && reach[i][j - 1] && second[j - 1] == line);
+    }
+  }
+  return reach[first.size()][second.size()];
+}
+// True when `wanted` occurs in `all` in this order, other lines between them allowed.
+inline bool containsInOrder(const Lines& all, const Lines& wanted) {
+  auto from = all.begin();
+  for (const std::string& line : wanted) {
+    from = std::find(from, all.end(), line);
+    if (from == all.end()) return false;
+    ++from;
+  }
+  return true;
+}
+inline std::string listed(const Lines& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += "\n  " + line;
+  return text;
+}
+// The gate line of a start script (kOpen or kClosed).
+inline std::string gateLine(const char* script) {
+  for (const std::string& line : appliance::readLines(script)) {
+    if (line == kOpen || line == kClosed) return line;
+  }
+  return "";
+}
+inline void replaceInFile(const char* path, const std::string& from, const std::string& to) {
+  std::string text = appliance::readFile(path);
+  appliance::writeFile(path, text.replace(text.find(from), from.size(), to));
+}
+inline void dialInUp() {
+  appliance::linkUp(appliance::Direction::DialIn, "ppp0", "10.0.0.1", "10.0.0.2");
+}
+inline void dialOutUp() {
+  appliance::linkUp(appliance::Direction::DialOut, "ppp1", "10.1.0.1", "10.1.0.2");
+}
+
+}  // namespace service
+
+class ServiceTest : public ApplianceTest {
+ protected:
+  void SetUp() override {
+    ApplianceTest::SetUp();
+    provider_->initialize(initEnv_);
+    logger = log_;  // after initialize, which installs the environment's logger
+  }
+  void TearDown() override { logger = 0; }
+
+  // The pristine appliance again, once the callbacks its registry rewrite causes are done.
+  static void pristine() {
+    appliance::reset();
+    ASSERT_EQ(QvlNotifySync(), 0);
+    appliance::clearJournal();
+    appliance::clearCalls();
+  }
+
+  // A registry change made by another program, once the module's callback has acted on it.
+  static void changeFromOutside(const std::string& value) {
+    appliance::regSet("ModemStatus", value);
+    ASSERT_EQ(QvlNotifySync(), 0);
+  }
+
+  OpenWBEM::CIMObjectPath servicePath() const {
+    OpenWBEM::CIMObjectPath path(OpenWBEM::CIMName("Zeph_RASService"), kNs);
+    path.setKeyValue("SystemCreationClassName",
+                     OpenWBEM::CIMValue(OpenWBEM::String("Zeph_System")));
+    path.setKeyValue("SystemName", OpenWBEM::CIMValue(OpenWBEM::String("Zeph")));
+    path.setKeyValue("CreationClassName", OpenWBEM::CIMValue(OpenWBEM::String("Zeph_RASService")));
+    path.setKeyValue("Name", OpenWBEM::CIMValue(OpenWBEM::String("RASService")));
+    return path;
+  }
+
+  OpenWBEM::CIMInstance get() {
+    return provider_->getInstance(env_, kNs, servicePath(), OpenWBEM::WBEMFlags::E_NOT_LOCAL_ONLY,
+                                  OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS,
+                                  OpenWBEM::WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0,
+                                  OpenWBEM::CIMClass(OpenWBEM::CIMNULL));
+  }
+
+  // modifyInstance of modemStatus, then waits for the callback its registry write causes.
+  void setModemStatus(const OpenWBEM::CIMValue& value) {
+    OpenWBEM::CIMInstance instance("Zeph_RASService");
+    for (const OpenWBEM::CIMProperty& key : servicePath().getKeys()) instance.setProperty(key);
+    instance.setProperty("modemStatus", value);
+    try {
+      provider_->modifyInstance(env_, kNs, instance, instance,
+                                OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS, 0,
+                                OpenWBEM::CIMClass(OpenWBEM::CIMNULL));
+    } catch (...) {
+      EXPECT_EQ(QvlNotifySync(), 0);
+      throw;
+    }
+    EXPECT_EQ(QvlNotifySync(), 0);
+  }
+
+  // Log lines since the previous call.
+  Lines newLog() {
+    const Lines all = log_->lines();
+    Lines fresh(all.begin() + static_cast<long>(seen_), all.end());
+    seen_ = all.size();
+    return fresh;
+  }
+
+  const OpenWBEM::String kNs{"root/cimv2"};
+  TestEnvRef initEnv_ = TestEnvironment::make();
+  TestEnvRef env_ = TestEnvironment::make();
+  OpenWBEM::IntrusiveReference<LockedLogger> log_{new LockedLogger()};
+  OpenWBEM::IntrusiveReference<Zeph_RASProvider> provider_{new Zeph_RASProvider};
+
+ private:
+  std::size_t seen_ = 0;
+};
+
+#endif
