@@ -5,10 +5,12 @@
 
 #include "Zeph_ClassNames.h"
 #include "Zeph_DialOutSettingData.h"
+#include "Zeph_DialOutSettingDataImpl.h"
 #include "Zeph_InstanceProvider.h"
 
 struct Zeph_DialOutSettingDataTraits
     : ras::ClassTraits<Zeph_DialOutSettingData, Zeph_DialOutSettingDataInstanceManager> {
+  using ImplManager = Zeph_DialOutSettingDataImplInstanceManager;
   static constexpr const char* kClass = Zeph_DialOutSettingDataName;
   static constexpr const char* kSource = "../src/Zeph_DialOutSettingDataProvider";
   static constexpr auto kCreate = &Manager::createZeph_DialOutSettingData;
