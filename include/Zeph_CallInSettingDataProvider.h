@@ -4,11 +4,13 @@
 #define ZEPH_CALLINSETTINGDATAPROVIDER_H
 
 #include "Zeph_CallInSettingData.h"
+#include "Zeph_CallInSettingDataImpl.h"
 #include "Zeph_ClassNames.h"
 #include "Zeph_InstanceProvider.h"
 
 struct Zeph_CallInSettingDataTraits
     : ras::ClassTraits<Zeph_CallInSettingData, Zeph_CallInSettingDataInstanceManager> {
+  using ImplManager = Zeph_CallInSettingDataImplInstanceManager;
   static constexpr const char* kClass = Zeph_CallInSettingDataName;
   static constexpr const char* kSource = "../src/Zeph_CallInSettingDataProvider";
   static constexpr auto kCreate = &Manager::createZeph_CallInSettingData;
