@@ -85,6 +85,9 @@ extern int handle;
 // fails (`value` is then untouched); the caller logs its own failure text.
 bool readModemRegistry(const char* name, std::string& value);
 
+// The same for a value that is only shown, never compared or converted: kept as stored.
+bool readModemRegistryAsStored(const char* name, std::string& value);
+
 // Stores a value of the modem group. False when the platform call fails.
 bool writeModemRegistry(const char* name, const char* value);
 

@@ -216,7 +216,7 @@ int Zeph_CallInSettingDataImpl::getDNNumber(std::string& value, ras::Qualifiers&
   platformLogDebug(kTraceGetDN);
   value = dnNumber_;
   std::string text;
-  if (!readModemRegistry(kRegModemDn, text)) {
+  if (!readModemRegistryAsStored(kRegModemDn, text)) {
     platformLogError(kQvlErrorLog);
     return ras::kStatusOk;
   }

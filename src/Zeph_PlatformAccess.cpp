@@ -391,14 +391,24 @@ const char* const kQvlErrorLogUpper = "Error IN QVL Operation\n";
 
 int handle = -1;
 
-bool readModemRegistry(const char* name, std::string& value) {
+namespace {
+bool readModemRegistryBuffer(const char* name, std::string& value, bool upperCase) {
   char buffer[kRegValueSize] = {};
   if (QvlGetRegEntryString(kRegSection, kRegGroup, name, buffer, kRegValueSize) != 0) {
     return false;
   }
   buffer[kRegValueSize - 1] = '\0';
-  value = osStrUpr(buffer);
+  value = upperCase ? osStrUpr(buffer) : buffer;
   return true;
+}
+}  // namespace
+
+bool readModemRegistry(const char* name, std::string& value) {
+  return readModemRegistryBuffer(name, value, true);
+}
+
+bool readModemRegistryAsStored(const char* name, std::string& value) {
+  return readModemRegistryBuffer(name, value, false);
 }
 
 bool writeModemRegistry(const char* name, const char* value) {
