@@ -56,6 +56,9 @@ std::string shellWord(const std::string& value);
 // Log text for a refused command (error level).
 extern const char* const kCommandRefusedLog;
 
+// The editor of every in-place file edit: "%s -i '<expression>' %s" with this and the file.
+extern const char* const kSed;
+
 // Longest command line the module runs (the original buffers hold 1024 bytes).
 constexpr std::size_t kMaxCommandLength = 1023;
 

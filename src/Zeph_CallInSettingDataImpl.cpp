@@ -21,7 +21,6 @@ const char* const kElementName = "Dial-In Configuration";
 const char* const kRingsFormat = "declare -r NUMBER_OF_RINGS=\"%d\"";
 const char* const kCmdSetRings =
     "%s -i '/^declare -r NUMBER_OF_RINGS/ c declare -r NUMBER_OF_RINGS=\"%d\"' %s";
-const char* const kSed = "/bin/sed";
 
 const char* const kNoLine = "NONE";
 const char* const kNumberFormat = "%d";

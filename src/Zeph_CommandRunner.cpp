@@ -8,6 +8,7 @@
 #include "Zeph_PlatformLog.h"
 
 const char* const kCommandRefusedLog = "Command not run: a value is not safe for the shell\n";
+const char* const kSed = "/bin/sed";
 
 namespace {
 

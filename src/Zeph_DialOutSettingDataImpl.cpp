@@ -34,7 +34,6 @@ const char* const kDialOutOptions = "/qv/etc/ppp/options_dialout";
 const char* const kPapSecrets = "/etc/ppp/pap-secrets";
 const char* const kChapSecrets = "/etc/ppp/chap-secrets";
 const char* const kPasswordFile = "/tmp/passwd";
-const char* const kSed = "/bin/sed";
 const char* const kSetLineScript = "/opt/etc/RasProviderScripts/setLine";
 const char* const kDialOutSuffix = "_dialout";
 const char* const kAddPasswordScript = "/opt/etc/RasProviderScripts/addPassword";

@@ -13,7 +13,6 @@ namespace {
 
 const char* const kHangupScript = "/qv/etc/ppp/ppp_hup_v2k";
 const char* const kIfoutFile = "/tmp/ifout";
-const char* const kSed = "/bin/sed";
 const char* const kSignalKillall = "/usr/bin/killall";
 const char* const kChat = "chat";
 const char* const kMgetty = "mgetty";
