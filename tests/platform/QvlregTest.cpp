@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "Spawn.hpp"
+#include "Appliance.h"
 #include "TempRegistry.hpp"
 
 namespace {
@@ -14,12 +14,6 @@ struct Row {
   int exitCode;
   const char* out;  // nullptr: not checked
 };
-
-std::string joined(const std::vector<std::string>& args) {
-  std::string text;
-  for (const std::string& arg : args) text += " " + arg;
-  return text;
-}
 
 // Rows run in order against one store, so later rows see earlier changes.
 TEST(Qvlreg, CommandsReadAndChangeTheStore) {
@@ -62,14 +56,12 @@ TEST(Qvlreg, CommandsReadAndChangeTheStore) {
       {{"--file", (registry.dir() / "missing" / "store").string(), "list"}, 3, ""},
   };
   for (const Row& row : rows) {
-    SCOPED_TRACE("qvlreg" + joined(row.args));
+    SCOPED_TRACE(testing::PrintToString(row.args));
     std::vector<std::string> argv = {QVLREG_PATH};
     argv.insert(argv.end(), row.args.begin(), row.args.end());
-    const qvltest::RunResult result = qvltest::runProgram(argv);
-    EXPECT_EQ(row.exitCode, result.exitCode);
-    if (row.out != nullptr) {
-      EXPECT_EQ(row.out, result.out);
-    }
+    const appliance::ToolResult result = appliance::runTool(argv);
+    EXPECT_EQ(row.exitCode, result.status);
+    if (row.out != nullptr) EXPECT_EQ(row.out, result.output);
   }
 }
 

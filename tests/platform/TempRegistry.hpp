@@ -8,7 +8,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <sstream>
 #include <string>
 
@@ -20,25 +19,15 @@ class TempRegistry {
     std::string pattern = (std::filesystem::temp_directory_path() / "qvl-test-XXXXXX").string();
     if (::mkdtemp(pattern.data()) == nullptr) ADD_FAILURE() << "mkdtemp failed";
     dir_ = pattern;
-    const char* previous = std::getenv(kVariable);
-    if (previous != nullptr) previous_ = previous;
-    ::setenv(kVariable, path().c_str(), 1);
+    ::setenv("QVL_REGISTRY", path().c_str(), 1);
   }
   ~TempRegistry() {
-    if (previous_) {
-      ::setenv(kVariable, previous_->c_str(), 1);
-    } else {
-      ::unsetenv(kVariable);
-    }
+    ::unsetenv("QVL_REGISTRY");
     std::error_code ignored;
     std::filesystem::remove_all(dir_, ignored);
   }
-  TempRegistry(const TempRegistry&) = delete;
-  TempRegistry& operator=(const TempRegistry&) = delete;
-
   std::string path() const { return (dir_ / "registry").string(); }
   const std::filesystem::path& dir() const { return dir_; }
-
   void write(const std::string& text) const { std::ofstream(path(), std::ios::binary) << text; }
   std::string read() const {
     std::ostringstream text;
@@ -47,9 +36,7 @@ class TempRegistry {
   }
 
  private:
-  static constexpr char kVariable[] = "QVL_REGISTRY";
   std::filesystem::path dir_;
-  std::optional<std::string> previous_;
 };
 
 // The appliance's usual content, as used by several tests.
