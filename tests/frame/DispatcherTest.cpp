@@ -8,10 +8,18 @@
 #include "CFG_Exception.h"
 #include "CimFailure.h"
 #include "DispatchFixture.h"
-#include "ModuleManagers.h"
 #include "TrapSoftModem.h"
-#include "Zeph_DispatchOperations.h"
+#include "Zeph_CallInSettingData.h"
+#include "Zeph_DialOutRoutes.h"
+#include "Zeph_DialOutSettingData.h"
 #include "Zeph_ModuleGlobals.h"
+#include "Zeph_NextHopIPRoute.h"
+#include "Zeph_PPPProtocolEndpoint.h"
+#include "Zeph_RASIPProtocolEndpoint.h"
+#include "Zeph_RASService.h"
+#include "Zeph_RASStaticIPAddressPool.h"
+#include "Zeph_SerialPort.h"
+#include "Zeph_SoftModem.h"
 
 namespace {
 
@@ -24,8 +32,11 @@ constexpr char kModuleClasses[][32] = {"Zeph_CallInSettingData",   "Zeph_DialOut
                                        "Zeph_PPPProtocolEndpoint", "Zeph_SoftModem",
                                        "Zeph_SerialPort",          "Zeph_DialOutRoutes"};
 
-// What escapes a per-class provider, and what the handler set makes of it.
-enum class Escape { ReadError, WriteError, StdException, UnknownThrow };
+// What escapes a per-class provider, and what the handler set makes of it. A lookup failure
+// is neither configuration error, so it is reported as an unknown std::exception.
+enum class Escape { ReadError, WriteError, NoInstance, StdException, UnknownThrow };
+constexpr Escape kEscapes[] = {Escape::ReadError, Escape::WriteError, Escape::NoInstance,
+                               Escape::StdException, Escape::UnknownThrow};
 
 void raise(Escape escape) {
   switch (escape) {
@@ -33,6 +44,8 @@ void raise(Escape escape) {
       throw CFG_ReadError();
     case Escape::WriteError:
       throw CFG_WriteError();
+    case Escape::NoInstance:
+      throw CFG_NoInstance();
     case Escape::StdException:
       throw std::runtime_error("disk on fire");
     case Escape::UnknownThrow:
@@ -62,24 +75,22 @@ CimFailure expectedFailure(const OperationLines& op, Escape escape, const std::s
           "Unknown std::exception caught in Zeph_RASProvider\n" + tail + what + "\n"};
 }
 
-const ras::Operation& moduleOperation(const std::string& name) {
-  using namespace ras::operations;
-  static const std::vector<std::pair<std::string, const ras::Operation*>> table = {
-      {"enumInstanceNames", &kEnumInstanceNames},
-      {"enumInstances", &kEnumInstances},
-      {"getInstance", &kGetInstance},
-      {"createInstance", &kCreateInstance},
-      {"deleteInstance", &kDeleteInstance},
-      {"modifyInstance", &kModifyInstance},
-      {"invokeMethod", &kInvokeMethod},
-      {"associators", &kAssociators},
-      {"associatorNames", &kAssociatorNames},
-      {"references", &kReferences},
-      {"referenceNames", &kReferenceNames}};
-  for (const auto& [key, op] : table) {
-    if (key == name) return *op;
+// The current instance manager of each of the ten classes, in the order of kModuleClasses.
+template <class... W>
+std::vector<const void*> managersOf() {
+  return {static_cast<const void*>(W::getInstanceManager())...};
+}
+
+// The message of a failure goes to the request's log once, as an error; an empty one is not
+// logged.
+void expectLogged(const TestEnvRef& env, const CimFailure& failure, const std::string& label) {
+  if (failure.message->empty()) {
+    EXPECT_TRUE(env->logged().empty()) << label;
+    return;
   }
-  throw std::logic_error("no such operation " + name);
+  ASSERT_EQ(env->logged().size(), 1u) << label;
+  EXPECT_EQ(env->logged()[0].category, "ERROR") << label;
+  EXPECT_EQ(env->logged()[0].text, *failure.message) << label;
 }
 
 class DispatcherTest : public ::testing::Test {
@@ -88,16 +99,6 @@ class DispatcherTest : public ::testing::Test {
     provider_ = new Zeph_RASProvider;
     dispatcher_ = dynamic_cast<Zeph_RASProvider*>(provider_.getPtr());
     ASSERT_NE(dispatcher_, nullptr);
-  }
-
-  void expectLoggedOnce(const TestEnvRef& env, const CimFailure& failure) {
-    if (failure.message->empty()) {
-      EXPECT_TRUE(env->logged().empty());
-      return;
-    }
-    ASSERT_EQ(env->logged().size(), 1u);
-    EXPECT_EQ(env->logged()[0].category, "ERROR");
-    EXPECT_EQ(env->logged()[0].text, *failure.message);
   }
 
   OpenWBEM::IntrusiveReference<OpenWBEM::CppProviderBaseIFC> provider_;
@@ -127,14 +128,14 @@ TEST_F(DispatcherTest, UnknownClassIsRefusedWithoutMessageAfterForwarding) {
                                             "Zeph_SoftModemSubclass", "CIM_Modem", ""};
   for (const OperationLines& op : kDispatcherLines) {
     std::vector<std::string> names = foreign;
-    if (isAssociationOperation(op.name)) {
+    if (op.association) {
       names.insert(names.end(),
                    {"Zeph_SoftModem", "Zeph_DialOutSettingData", "zeph_dialoutroutes"});
     }
     for (const std::string& name : names) {
       const TestEnvRef env = TestEnvironment::make();
       const CimFailure failure =
-          cimFailureOf([&] { requestFor(op.name)(*dispatcher_, env, name.c_str()); });
+          cimFailureOf([&] { request(op.name, *dispatcher_, env, name.c_str()); });
       EXPECT_EQ(failure,
                 (CimFailure{CIMException::INVALID_CLASS, kSource, op.unknownClass, std::nullopt}))
           << op.name << " on '" << name << "'";
@@ -146,18 +147,18 @@ TEST_F(DispatcherTest, UnknownClassIsRefusedWithoutMessageAfterForwarding) {
 TEST_F(DispatcherTest, ModuleClassesReachTheirProviders) {
   for (const std::string cls : kModuleClasses) {
     EXPECT_EQ(cimFailureOf([&] {
-                requestFor("enumInstanceNames")(*dispatcher_, TestEnvironment::make(), cls.c_str());
+                request("enumInstanceNames", *dispatcher_, TestEnvironment::make(), cls.c_str());
               }).code,
               -1)
         << cls;
     // The per-class provider answers invokeMethod itself: no method, no class error.
     const CimFailure invoke = cimFailureOf(
-        [&] { requestFor("invokeMethod")(*dispatcher_, TestEnvironment::make(), cls.c_str()); });
+        [&] { request("invokeMethod", *dispatcher_, TestEnvironment::make(), cls.c_str()); });
     EXPECT_EQ(invoke.code, CIMException::METHOD_NOT_FOUND) << cls;
   }
   for (const char* op : {"associators", "associatorNames", "references", "referenceNames"}) {
     EXPECT_EQ(cimFailureOf([&] {
-                requestFor(op)(*dispatcher_, TestEnvironment::make(), "Zeph_DialOutRoutes");
+                request(op, *dispatcher_, TestEnvironment::make(), "Zeph_DialOutRoutes");
               }).code,
               -1)
         << op;
@@ -167,22 +168,19 @@ TEST_F(DispatcherTest, ModuleClassesReachTheirProviders) {
 // Every cell of the dispatcher's line table, through the handler set of each operation.
 TEST(DispatcherHandlerSet, EveryOperationMapsEveryEscapeToItsLineAndMessage) {
   for (const OperationLines& lines : kDispatcherLines) {
-    for (Escape escape :
-         {Escape::ReadError, Escape::WriteError, Escape::StdException, Escape::UnknownThrow}) {
+    for (Escape escape : kEscapes) {
       const TestEnvRef env = TestEnvironment::make();
       const CimFailure expected = expectedFailure(lines, escape, "Zeph_SoftModem");
-      const CimFailure failure = cimFailureOf([&] {
-        ras::guarded(env, moduleOperation(lines.name), "Zeph_SoftModem", [&] {
-          raise(escape);
-          return true;
-        });
-      });
-      EXPECT_EQ(failure, expected) << lines.name << " escape " << static_cast<int>(escape);
-      const std::size_t logged = expected.message->empty() ? 0u : 1u;
-      ASSERT_EQ(env->logged().size(), logged) << lines.name;
-      if (logged == 1u) {
-        EXPECT_EQ(env->logged()[0].text, *expected.message);
-      }
+      const std::string label = lines.name + std::string(" escape ") + std::to_string(int(escape));
+      EXPECT_EQ(cimFailureOf([&] {
+                  ras::guarded(env, *lines.operation, "Zeph_SoftModem", [&] {
+                    raise(escape);
+                    return true;
+                  });
+                }),
+                expected)
+          << label;
+      expectLogged(env, expected, label);
     }
   }
 }
@@ -195,44 +193,34 @@ TEST_F(DispatcherTest, EscapesFromTheSoftModemProviderTakeTheHandlerSet) {
   const std::size_t loggedByInitialize = initEnv->logged().size();
   TrapSoftModemInstaller trap;
   for (const OperationLines& lines : kDispatcherLines) {
-    if (isAssociationOperation(lines.name) || lines.invokeWriteError != 0) continue;
-    for (Escape escape :
-         {Escape::ReadError, Escape::WriteError, Escape::StdException, Escape::UnknownThrow}) {
+    if (lines.association || lines.invokeWriteError != 0) continue;
+    for (Escape escape : kEscapes) {
       const TestEnvRef env = TestEnvironment::make();
       trap.arm([escape] { raise(escape); });
       const CimFailure failure =
-          cimFailureOf([&] { requestFor(lines.name)(*dispatcher_, env, "Zeph_SoftModem"); });
+          cimFailureOf([&] { request(lines.name, *dispatcher_, env, "Zeph_SoftModem"); });
       trap.disarm();
       const CimFailure expected = expectedFailure(lines, escape, "Zeph_SoftModem");
-      EXPECT_EQ(failure, expected) << lines.name << " escape " << static_cast<int>(escape);
-      expectLoggedOnce(env, expected);
+      const std::string label = lines.name + std::string(" escape ") + std::to_string(int(escape));
+      EXPECT_EQ(failure, expected) << label;
+      expectLogged(env, expected, label);
     }
   }
   EXPECT_EQ(initEnv->logged().size(), loggedByInitialize);
 }
 
-TEST_F(DispatcherTest, LookupFailureEscapingAGetterIsAnUnknownStdException) {
-  TrapSoftModemInstaller trap;
-  trap.arm([] { throw CFG_NoInstance(); });
-  const TestEnvRef env = TestEnvironment::make();
-  const CimFailure failure =
-      cimFailureOf([&] { requestFor("getInstance")(*dispatcher_, env, "Zeph_SoftModem"); });
-  const std::string message =
-      "Unknown std::exception caught in Zeph_RASProvider\n while performing getInstance "
-      "operation on Zeph_SoftModem\nstd::exception\n";
-  EXPECT_EQ(failure, (CimFailure{CIMException::FAILED, kSource, 467, message}));
-  expectLoggedOnce(env, failure);
-}
-
 TEST_F(DispatcherTest, SecondInitializeReplacesGlobalsAndEveryManager) {
-  const TestEnvRef first = TestEnvironment::make();
-  dispatcher_->initialize(first);
-  const std::vector<const void*> before = currentManagers();
+  const auto managers =
+      managersOf<Zeph_CallInSettingData, Zeph_DialOutSettingData, Zeph_RASService,
+                 Zeph_RASStaticIPAddressPool, Zeph_NextHopIPRoute, Zeph_RASIPProtocolEndpoint,
+                 Zeph_PPPProtocolEndpoint, Zeph_SoftModem, Zeph_SerialPort, Zeph_DialOutRoutes>;
+  dispatcher_->initialize(TestEnvironment::make());
+  const std::vector<const void*> before = managers();
   const TestEnvRef second = TestEnvironment::make();
   dispatcher_->initialize(second);
   EXPECT_TRUE(logger == second->loggerRef());
   EXPECT_TRUE(hdl == second->getCIMOMHandle());
-  const std::vector<const void*> after = currentManagers();
+  const std::vector<const void*> after = managers();
   ASSERT_EQ(after.size(), 10u);
   for (std::size_t i = 0; i < after.size(); ++i) {
     EXPECT_NE(after[i], before[i]) << kModuleClasses[i];

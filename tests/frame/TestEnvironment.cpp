@@ -18,6 +18,12 @@ using Q = WBEMFlags::EIncludeQualifiersFlag;
 using CO = WBEMFlags::EIncludeClassOriginFlag;
 using LO = WBEMFlags::ELocalOnlyFlag;
 using D = WBEMFlags::EDeepFlag;
+using S = const String&;
+using Path = const CIMObjectPath&;
+using List = const StringArray*;
+using Names = CIMObjectPathResultHandlerIFC&;
+using Objects = CIMInstanceResultHandlerIFC&;
+using Classes = CIMClassResultHandlerIFC&;
 
 [[noreturn]] void refuse() {
   throw CIMException(__FILE__, 0, CIMException::NOT_SUPPORTED);
@@ -27,76 +33,34 @@ using D = WBEMFlags::EDeepFlag;
 class StubCIMOMHandle : public CIMOMHandleIFC {
  public:
   void close() override {}
-  void enumClass(const String&, const String&, CIMClassResultHandlerIFC&, D, LO, Q, CO) override {
+  void enumClass(S, S, Classes, D, LO, Q, CO) override { refuse(); }
+  void enumClassNames(S, S, StringResultHandlerIFC&, D) override { refuse(); }
+  void enumInstances(S, S, Objects, D, LO, Q, CO, List) override { refuse(); }
+  void enumInstanceNames(S, S, Names) override { refuse(); }
+  CIMClass getClass(S, S, LO, Q, CO, List) override { refuse(); }
+  CIMInstance getInstance(S, Path, LO, Q, CO, List) override { refuse(); }
+  CIMValue invokeMethod(S, Path, S, const CIMParamValueArray&, CIMParamValueArray&) override {
     refuse();
   }
-  void enumClassNames(const String&, const String&, StringResultHandlerIFC&, D) override {
-    refuse();
-  }
-  void enumInstances(const String&, const String&, CIMInstanceResultHandlerIFC&, D, LO, Q, CO,
-                     const StringArray*) override {
-    refuse();
-  }
-  void enumInstanceNames(const String&, const String&, CIMObjectPathResultHandlerIFC&) override {
-    refuse();
-  }
-  CIMClass getClass(const String&, const String&, LO, Q, CO, const StringArray*) override {
-    refuse();
-  }
-  CIMInstance getInstance(const String&, const CIMObjectPath&, LO, Q, CO,
-                          const StringArray*) override {
-    refuse();
-  }
-  CIMValue invokeMethod(const String&, const CIMObjectPath&, const String&,
-                        const CIMParamValueArray&, CIMParamValueArray&) override {
-    refuse();
-  }
-  CIMQualifierType getQualifierType(const String&, const String&) override { refuse(); }
-  void setQualifierType(const String&, const CIMQualifierType&) override { refuse(); }
-  void deleteQualifierType(const String&, const String&) override { refuse(); }
-  void enumQualifierTypes(const String&, CIMQualifierTypeResultHandlerIFC&) override { refuse(); }
-  void modifyClass(const String&, const CIMClass&) override { refuse(); }
-  void createClass(const String&, const CIMClass&) override { refuse(); }
-  void deleteClass(const String&, const String&) override { refuse(); }
-  void modifyInstance(const String&, const CIMInstance&, Q, const StringArray*) override {
-    refuse();
-  }
-  CIMObjectPath createInstance(const String&, const CIMInstance&) override { refuse(); }
-  void deleteInstance(const String&, const CIMObjectPath&) override { refuse(); }
-  void setProperty(const String&, const CIMObjectPath&, const String&, const CIMValue&) override {
-    refuse();
-  }
-  CIMValue getProperty(const String&, const CIMObjectPath&, const String&) override { refuse(); }
-  void associatorNames(const String&, const CIMObjectPath&, CIMObjectPathResultHandlerIFC&,
-                       const String&, const String&, const String&, const String&) override {
-    refuse();
-  }
-  void associators(const String&, const CIMObjectPath&, CIMInstanceResultHandlerIFC&, const String&,
-                   const String&, const String&, const String&, Q, CO,
-                   const StringArray*) override {
-    refuse();
-  }
-  void associatorsClasses(const String&, const CIMObjectPath&, CIMClassResultHandlerIFC&,
-                          const String&, const String&, const String&, const String&, Q, CO,
-                          const StringArray*) override {
-    refuse();
-  }
-  void referenceNames(const String&, const CIMObjectPath&, CIMObjectPathResultHandlerIFC&,
-                      const String&, const String&) override {
-    refuse();
-  }
-  void references(const String&, const CIMObjectPath&, CIMInstanceResultHandlerIFC&, const String&,
-                  const String&, Q, CO, const StringArray*) override {
-    refuse();
-  }
-  void referencesClasses(const String&, const CIMObjectPath&, CIMClassResultHandlerIFC&,
-                         const String&, const String&, Q, CO, const StringArray*) override {
-    refuse();
-  }
-  void execQuery(const String&, CIMInstanceResultHandlerIFC&, const String&,
-                 const String&) override {
-    refuse();
-  }
+  CIMQualifierType getQualifierType(S, S) override { refuse(); }
+  void setQualifierType(S, const CIMQualifierType&) override { refuse(); }
+  void deleteQualifierType(S, S) override { refuse(); }
+  void enumQualifierTypes(S, CIMQualifierTypeResultHandlerIFC&) override { refuse(); }
+  void modifyClass(S, const CIMClass&) override { refuse(); }
+  void createClass(S, const CIMClass&) override { refuse(); }
+  void deleteClass(S, S) override { refuse(); }
+  void modifyInstance(S, const CIMInstance&, Q, List) override { refuse(); }
+  CIMObjectPath createInstance(S, const CIMInstance&) override { refuse(); }
+  void deleteInstance(S, Path) override { refuse(); }
+  void setProperty(S, Path, S, const CIMValue&) override { refuse(); }
+  CIMValue getProperty(S, Path, S) override { refuse(); }
+  void associatorNames(S, Path, Names, S, S, S, S) override { refuse(); }
+  void associators(S, Path, Objects, S, S, S, S, Q, CO, List) override { refuse(); }
+  void associatorsClasses(S, Path, Classes, S, S, S, S, Q, CO, List) override { refuse(); }
+  void referenceNames(S, Path, Names, S, S) override { refuse(); }
+  void references(S, Path, Objects, S, S, Q, CO, List) override { refuse(); }
+  void referencesClasses(S, Path, Classes, S, S, Q, CO, List) override { refuse(); }
+  void execQuery(S, Objects, S, S) override { refuse(); }
 };
 
 }  // namespace
