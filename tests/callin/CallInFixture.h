@@ -25,7 +25,6 @@ namespace callin {
 inline constexpr char kClass[] = "Zeph_CallInSettingData";
 inline constexpr char kInstanceID[] = "Velmar:Zeph_CallInSettingData";
 inline constexpr char kMgettyScript[] = "/qv/etc/ppp/mgetty_v2k";
-inline constexpr char kRegistry[] = "/var/lib/qvl/registry";
 inline const OpenWBEM::String kNs("root/cimv2");
 
 using Properties = std::vector<std::pair<const char*, OpenWBEM::CIMValue>>;
@@ -66,7 +65,6 @@ class CallInTest : public ApplianceTest {
     for (const LogLine& line : initEnv_->logged()) lines.push_back(line.category + "|" + line.text);
     return lines;
   }
-  void clearLog() { initEnv_->logged().clear(); }
 
   OpenWBEM::CIMInstance get() {
     OpenWBEM::CIMObjectPath path(OpenWBEM::CIMName(kClass), kNs);
@@ -105,8 +103,8 @@ class CallInTest : public ApplianceTest {
   TestEnvRef initEnv_;
 };
 
-// One row of a table per test: its own fresh appliance, prepared by the row's setUp before the
-// module starts. Rows carry a `name` (letters and digits) that names the test.
+// One row of a table per test: its own fresh appliance, prepared by the row's setUp (if any)
+// before the module starts. Rows carry a `name` (letters and digits) that names the test.
 template <class Row>
 class CallInRowTest : public CallInTest, public ::testing::WithParamInterface<Row> {
  protected:

@@ -6,45 +6,41 @@
 #include <algorithm>
 #include <cstdlib>
 #include <functional>
-#include <optional>
 
 #include "CallInFixture.h"
 
 namespace callin {
 namespace {
 
-using appliance::Direction;
 using Lines = std::vector<std::string>;
 using OpenWBEM::CIMException;
 
+constexpr char kRegistry[] = "/var/lib/qvl/registry";
 constexpr char kSource[] = "../src/Zeph_CallInSettingDataProvider";
 constexpr int kLineAboveMaximum = 334;
 constexpr int kLineBelowMinimum = 342;
 constexpr int kLineSetterStatus = 388;
+const auto kFailed = CIMException::FAILED;
+const auto kInvalid = CIMException::INVALID_PARAMETER;
 
-std::function<void()> dialInUp() {
-  return [] { appliance::linkUp(Direction::DialIn, "ppp0", "10.0.0.1", "10.0.0.2"); };
+void dialInUp() {
+  appliance::linkUp(appliance::Direction::DialIn, "ppp0", "10.0.0.1", "10.0.0.2");
 }
 // Without MinLine and MaxLine a line is checked against the fixed range 1 to 268.
-std::function<void()> noLineBounds() {
-  return [] {
-    appliance::regDelete("MinLine");
-    appliance::regDelete("MaxLine");
-  };
+void noLineBounds() {
+  appliance::regDelete("MinLine");
+  appliance::regDelete("MaxLine");
 }
 
-std::string ringsEdit(int rings) {
-  return "/bin/sed -i '/^declare -r NUMBER_OF_RINGS/ c declare -r NUMBER_OF_RINGS=\"" +
-         std::to_string(rings) + "\"' /qv/etc/ppp/mgetty_v2k";
+std::string ringsLine(const std::string& rings) {
+  return "declare -r NUMBER_OF_RINGS=\"" + rings + "\"";
 }
-std::string ringsLine(int rings) {
-  return "declare -r NUMBER_OF_RINGS=\"" + std::to_string(rings) + "\"";
-}
-bool hasLine(const char* path, const std::string& wanted) {
-  for (const std::string& line : appliance::readLines(path)) {
-    if (line == wanted) return true;
-  }
-  return false;
+// The script edit for `rings`, then mgetty's restart unless a dial-in call is up.
+Lines ringsSet(int rings, bool restart) {
+  Lines journal = {"/bin/sed -i '/^declare -r NUMBER_OF_RINGS/ c " +
+                   ringsLine(std::to_string(rings)) + "' /qv/etc/ppp/mgetty_v2k"};
+  if (restart) journal.insert(journal.end(), {"killall -9 mgetty", "init q"});
+  return journal;
 }
 CimFailure failure(int code, const std::string& message, int line) {
   return {code, kSource, line, message};
@@ -52,130 +48,35 @@ CimFailure failure(int code, const std::string& message, int line) {
 
 struct ValidSet {
   const char* name;
-  std::function<void()> setUp;
   const char* property;
-  OpenWBEM::CIMValue value;
-  const char* registryName;  // the registry value written, when one is
-  const char* registryValue;
-  std::optional<int> ringsInScript;
+  OpenWBEM::CIMValue value;   // also the value read back
+  const char* registryValue;  // the property's registry value; none for the script's rings
   Lines journal;
-  const char* readBack;
   const char* logLine;
+  std::function<void()> setUp = nullptr;
 };
 
-const Lines kRestartMgetty = {"killall -9 mgetty", "init q"};
+const char* const kKilling = "DEBUG|Killing Mgetty";
+const Lines kNothing;
 
 const std::vector<ValidSet> kValidSets = {
-    {"Line3",
-     {},
-     "LineToAnswer",
-     u16(3),
-     "LineToAnswer",
-     "3",
-     {},
-     {},
-     "3",
-     "DEBUG|Line to Answer  3\n"},
-    {"Line8",
-     {},
-     "LineToAnswer",
-     u16(8),
-     "LineToAnswer",
-     "8",
-     {},
-     {},
-     "8",
-     "DEBUG|Line to Answer  8\n"},
-    {"Line0IsNone",
-     {},
-     "LineToAnswer",
-     u16(0),
-     "LineToAnswer",
-     "NONE",
-     {},
-     {},
-     "0",
-     "DEBUG|Line to Answer  0\n"},
-    {"Line268WithoutBounds",
-     noLineBounds(),
-     "LineToAnswer",
-     u16(268),
-     "LineToAnswer",
-     "268",
-     {},
-     {},
-     "268",
-     "DEBUG|Line to Answer  268\n"},
-    {"Rings20",
-     {},
-     "RingsBeforeAnswer",
-     u16(20),
-     nullptr,
-     nullptr,
-     20,
-     {ringsEdit(20), kRestartMgetty[0], kRestartMgetty[1]},
-     "20",
-     "DEBUG|Killing Mgetty"},
-    {"Rings1",
-     {},
-     "RingsBeforeAnswer",
-     u16(1),
-     nullptr,
-     nullptr,
-     1,
-     {ringsEdit(1), kRestartMgetty[0], kRestartMgetty[1]},
-     "1",
-     "DEBUG|Killing Mgetty"},
+    {"Line3", "LineToAnswer", u16(3), "3", kNothing, "DEBUG|Line to Answer  3\n"},
+    {"Line8", "LineToAnswer", u16(8), "8", kNothing, "DEBUG|Line to Answer  8\n"},
+    {"Line0IsNone", "LineToAnswer", u16(0), "NONE", kNothing, "DEBUG|Line to Answer  0\n"},
+    {"Line268WithoutBounds", "LineToAnswer", u16(268), "268", kNothing,
+     "DEBUG|Line to Answer  268\n", noLineBounds},
+    {"Rings20", "RingsBeforeAnswer", u16(20), nullptr, ringsSet(20, true), kKilling},
+    {"Rings1", "RingsBeforeAnswer", u16(1), nullptr, ringsSet(1, true), kKilling},
     // A dial-in call in progress is never cut: the script changes, mgetty is left alone.
-    {"Rings5WithADialInCall",
-     dialInUp(),
-     "RingsBeforeAnswer",
-     u16(5),
-     nullptr,
-     nullptr,
-     5,
-     {ringsEdit(5)},
-     "5",
-     "DEBUG|Zeph_CallInSettingDataImpl::setRingsBeforeAnswer\n"},
-    {"Timer30",
-     {},
-     "AutoDisableTimer",
-     u16(30),
-     "AutoDisableTimer",
-     "30",
-     {},
-     {},
-     "30",
+    {"Rings5WithADialInCall", "RingsBeforeAnswer", u16(5), nullptr, ringsSet(5, false),
+     "DEBUG|Zeph_CallInSettingDataImpl::setRingsBeforeAnswer\n", dialInUp},
+    {"Timer30", "AutoDisableTimer", u16(30), "30", kNothing,
      "DEBUG|Setting AutoDisable Timer value 30\n"},
-    {"Timer0",
-     {},
-     "AutoDisableTimer",
-     u16(0),
-     "AutoDisableTimer",
-     "0",
-     {},
-     {},
-     "0",
+    {"Timer0", "AutoDisableTimer", u16(0), "0", kNothing,
      "DEBUG|Setting AutoDisable Timer value 0\n"},
-    {"FlagOn",
-     {},
-     "AutoDisableFlag",
-     flag(true),
-     "AutoDisableFlag",
-     "ON",
-     {},
-     {},
-     "true",
+    {"FlagOn", "AutoDisableFlag", flag(true), "ON", kNothing,
      "DEBUG|Setting the AutoDisable FLag to 1\n"},
-    {"FlagOff",
-     {},
-     "AutoDisableFlag",
-     flag(false),
-     "AutoDisableFlag",
-     "OFF",
-     {},
-     {},
-     "false",
+    {"FlagOff", "AutoDisableFlag", flag(false), "OFF", kNothing,
      "DEBUG|Setting the AutoDisable FLag to 0\n"},
 };
 
@@ -187,16 +88,16 @@ TEST_P(ValidValue, ReachesTheRegistryOrTheScriptAndReadsBack) {
   const std::string mgetty = appliance::processState("mgetty");
   EXPECT_EQ(modify({{row.property, row.value}}), CimFailure{});
   EXPECT_EQ(appliance::journal(), row.journal);
-  if (row.registryName) {
-    EXPECT_EQ(appliance::regGet(row.registryName), std::string(row.registryValue));
-  }
-  if (row.ringsInScript) {
-    EXPECT_TRUE(hasLine(kMgettyScript, ringsLine(*row.ringsInScript)));
-  } else {
+  const std::string text = row.value.toString().c_str();
+  if (row.registryValue) {
+    EXPECT_EQ(appliance::regGet(row.property), std::string(row.registryValue));
     EXPECT_EQ(appliance::readFile(kMgettyScript), script);
+  } else {
+    const Lines lines = appliance::readLines(kMgettyScript);
+    EXPECT_NE(std::find(lines.begin(), lines.end(), ringsLine(text)), lines.end());
   }
   EXPECT_EQ(appliance::processState("mgetty"), mgetty);
-  EXPECT_EQ(value(row.property), row.readBack);
+  EXPECT_EQ(value(row.property), text);
   const Lines log = logged();
   EXPECT_NE(std::find(log.begin(), log.end(), row.logLine), log.end());
 }
@@ -204,40 +105,32 @@ INSTANTIATE_TEST_SUITE_P(CallIn, ValidValue, ::testing::ValuesIn(kValidSets), Ro
 
 struct InvalidSet {
   const char* name;
-  std::function<void()> setUp;
   const char* property;
   OpenWBEM::CIMValue value;
   int code;
   std::string message;
   int line;
+  std::function<void()> setUp = nullptr;
 };
 
-const auto kFailed = CIMException::FAILED;
-const auto kInvalid = CIMException::INVALID_PARAMETER;
+// The text of a rings value outside its range: `relation` is "<=" or ">=".
+std::string ringsOutside(const char* relation, const char* error, int limit) {
+  const std::string bound = std::to_string(limit);
+  return std::string("The value of RingsBeforeAnswer must be ") + relation + " " + bound + "\n#" +
+         error + ",MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer," + bound + "#";
+}
 
 const std::vector<InvalidSet> kInvalidSets = {
-    {"Line10000", {}, "LineToAnswer", u16(10000), kFailed, "#RAS_MODEM_13#", kLineSetterStatus},
-    {"Line65535", {}, "LineToAnswer", u16(65535), kFailed, "#RAS_MODEM_13#", kLineSetterStatus},
-    {"Line9AboveMaxLine", {}, "LineToAnswer", u16(9), kFailed, "#RAS_MODEM_18#", kLineSetterStatus},
-    {"Line269WithoutBounds", noLineBounds(), "LineToAnswer", u16(269), kFailed, "#RAS_MODEM_18#",
-     kLineSetterStatus},
-    {"Rings21",
-     {},
-     "RingsBeforeAnswer",
-     u16(21),
-     kInvalid,
-     "The value of RingsBeforeAnswer must be <= 20\n"
-     "#CFG_000_0003,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,20#",
+    {"Line10000", "LineToAnswer", u16(10000), kFailed, "#RAS_MODEM_13#", kLineSetterStatus},
+    {"Line65535", "LineToAnswer", u16(65535), kFailed, "#RAS_MODEM_13#", kLineSetterStatus},
+    {"Line9AboveMaxLine", "LineToAnswer", u16(9), kFailed, "#RAS_MODEM_18#", kLineSetterStatus},
+    {"Line269WithoutBounds", "LineToAnswer", u16(269), kFailed, "#RAS_MODEM_18#", kLineSetterStatus,
+     noLineBounds},
+    {"Rings21", "RingsBeforeAnswer", u16(21), kInvalid, ringsOutside("<=", "CFG_000_0003", 20),
      kLineAboveMaximum},
-    {"Rings0",
-     {},
-     "RingsBeforeAnswer",
-     u16(0),
-     kInvalid,
-     "The value of RingsBeforeAnswer must be >= 1\n"
-     "#CFG_000_0002,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,1#",
+    {"Rings0", "RingsBeforeAnswer", u16(0), kInvalid, ringsOutside(">=", "CFG_000_0002", 1),
      kLineBelowMinimum},
-    {"Timer31", {}, "AutoDisableTimer", u16(31), kFailed, "#RAS_MODEM_14#", kLineSetterStatus},
+    {"Timer31", "AutoDisableTimer", u16(31), kFailed, "#RAS_MODEM_14#", kLineSetterStatus},
 };
 
 using InvalidValue = CallInRowTest<InvalidSet>;
@@ -255,12 +148,12 @@ INSTANTIATE_TEST_SUITE_P(CallIn, InvalidValue, ::testing::ValuesIn(kInvalidSets)
 
 // A registry that cannot be written: every registry setter reports status 100.
 TEST_F(CallInTest, AFailedRegistryWriteIsStatus100) {
-  const std::vector<std::pair<const char*, OpenWBEM::CIMValue>> rows = {
+  const Properties rows = {
       {"LineToAnswer", u16(3)}, {"AutoDisableTimer", u16(5)}, {"AutoDisableFlag", flag(true)}};
   const std::string registry = appliance::readFile(kRegistry);
   ASSERT_EQ(setenv("QVL_REGISTRY", "/nonexistent/registry", 1), 0);
   for (const auto& [property, value] : rows) {
-    clearLog();
+    initEnv_->logged().clear();
     EXPECT_EQ(modify({{property, value}}), failure(kFailed, "#RAS_MODEM_100#", kLineSetterStatus))
         << property;
     const Lines log = logged();
