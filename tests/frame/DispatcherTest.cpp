@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <stdexcept>
 
 #include "CFG_Exception.h"
@@ -81,28 +82,26 @@ std::vector<const void*> managersOf() {
   return {static_cast<const void*>(W::getInstanceManager())...};
 }
 
-// The message of a failure goes to the request's log once, as an error; an empty one is not
-// logged.
-void expectLogged(const TestEnvRef& env, const CimFailure& failure, const std::string& label) {
-  if (failure.message->empty()) {
+// Runs `call` with a fresh request environment and checks the failure it raises for
+// `escape`, and that its message, if any, went to that environment's log once, as an error.
+void expectHandled(const OperationLines& lines, Escape escape,
+                   const std::function<void(const TestEnvRef&)>& call) {
+  const std::string label = lines.name + std::string(" escape ") + std::to_string(int(escape));
+  const TestEnvRef env = TestEnvironment::make();
+  const CimFailure expected = expectedFailure(lines, escape, "Zeph_SoftModem");
+  EXPECT_EQ(cimFailureOf([&] { call(env); }), expected) << label;
+  if (expected.message->empty()) {
     EXPECT_TRUE(env->logged().empty()) << label;
     return;
   }
   ASSERT_EQ(env->logged().size(), 1u) << label;
   EXPECT_EQ(env->logged()[0].category, "ERROR") << label;
-  EXPECT_EQ(env->logged()[0].text, *failure.message) << label;
+  EXPECT_EQ(env->logged()[0].text, *expected.message) << label;
 }
 
 class DispatcherTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    provider_ = new Zeph_RASProvider;
-    dispatcher_ = dynamic_cast<Zeph_RASProvider*>(provider_.getPtr());
-    ASSERT_NE(dispatcher_, nullptr);
-  }
-
-  OpenWBEM::IntrusiveReference<OpenWBEM::CppProviderBaseIFC> provider_;
-  Zeph_RASProvider* dispatcher_ = nullptr;
+  OpenWBEM::IntrusiveReference<Zeph_RASProvider> dispatcher_ = new Zeph_RASProvider;
 };
 
 // Loaded as a CIMOM loads it (and, like a CIMOM, never unloaded).
@@ -145,23 +144,18 @@ TEST_F(DispatcherTest, UnknownClassIsRefusedWithoutMessageAfterForwarding) {
 }
 
 TEST_F(DispatcherTest, ModuleClassesReachTheirProviders) {
+  const auto codeOf = [&](const char* operation, const std::string& cls) {
+    return cimFailureOf(
+               [&] { request(operation, *dispatcher_, TestEnvironment::make(), cls.c_str()); })
+        .code;
+  };
   for (const std::string cls : kModuleClasses) {
-    EXPECT_EQ(cimFailureOf([&] {
-                request("enumInstanceNames", *dispatcher_, TestEnvironment::make(), cls.c_str());
-              }).code,
-              -1)
-        << cls;
+    EXPECT_EQ(codeOf("enumInstanceNames", cls), -1) << cls;
     // The per-class provider answers invokeMethod itself: no method, no class error.
-    const CimFailure invoke = cimFailureOf(
-        [&] { request("invokeMethod", *dispatcher_, TestEnvironment::make(), cls.c_str()); });
-    EXPECT_EQ(invoke.code, CIMException::METHOD_NOT_FOUND) << cls;
+    EXPECT_EQ(codeOf("invokeMethod", cls), CIMException::METHOD_NOT_FOUND) << cls;
   }
   for (const char* op : {"associators", "associatorNames", "references", "referenceNames"}) {
-    EXPECT_EQ(cimFailureOf([&] {
-                request(op, *dispatcher_, TestEnvironment::make(), "Zeph_DialOutRoutes");
-              }).code,
-              -1)
-        << op;
+    EXPECT_EQ(codeOf(op, "Zeph_DialOutRoutes"), -1) << op;
   }
 }
 
@@ -169,18 +163,12 @@ TEST_F(DispatcherTest, ModuleClassesReachTheirProviders) {
 TEST(DispatcherHandlerSet, EveryOperationMapsEveryEscapeToItsLineAndMessage) {
   for (const OperationLines& lines : kDispatcherLines) {
     for (Escape escape : kEscapes) {
-      const TestEnvRef env = TestEnvironment::make();
-      const CimFailure expected = expectedFailure(lines, escape, "Zeph_SoftModem");
-      const std::string label = lines.name + std::string(" escape ") + std::to_string(int(escape));
-      EXPECT_EQ(cimFailureOf([&] {
-                  ras::guarded(env, *lines.operation, "Zeph_SoftModem", [&] {
-                    raise(escape);
-                    return true;
-                  });
-                }),
-                expected)
-          << label;
-      expectLogged(env, expected, label);
+      expectHandled(lines, escape, [&](const TestEnvRef& env) {
+        ras::guarded(env, *lines.operation, "Zeph_SoftModem", [&] {
+          raise(escape);
+          return true;
+        });
+      });
     }
   }
 }
@@ -195,15 +183,10 @@ TEST_F(DispatcherTest, EscapesFromTheSoftModemProviderTakeTheHandlerSet) {
   for (const OperationLines& lines : kDispatcherLines) {
     if (lines.association || lines.invokeWriteError != 0) continue;
     for (Escape escape : kEscapes) {
-      const TestEnvRef env = TestEnvironment::make();
       trap.arm([escape] { raise(escape); });
-      const CimFailure failure =
-          cimFailureOf([&] { request(lines.name, *dispatcher_, env, "Zeph_SoftModem"); });
-      trap.disarm();
-      const CimFailure expected = expectedFailure(lines, escape, "Zeph_SoftModem");
-      const std::string label = lines.name + std::string(" escape ") + std::to_string(int(escape));
-      EXPECT_EQ(failure, expected) << label;
-      expectLogged(env, expected, label);
+      expectHandled(lines, escape, [&](const TestEnvRef& env) {
+        request(lines.name, *dispatcher_, env, "Zeph_SoftModem");
+      });
     }
   }
   EXPECT_EQ(initEnv->logged().size(), loggedByInitialize);

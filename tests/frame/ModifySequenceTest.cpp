@@ -25,7 +25,6 @@ constexpr char kInstanceID[] = "Velmar:Zeph_CallInSettingData";
 const String kNs("root/cimv2");
 const CIMClass kNoClass(CIMNULL);
 const CimFailure kSuccess{};
-using CimCode = CIMException::ErrNoType;
 
 using Properties = std::vector<std::pair<const char*, CIMValue>>;
 
@@ -75,16 +74,27 @@ class CallInProviderTest : public ::testing::Test {
   Zeph_CallInSettingDataProvider provider_;
 };
 
+const auto failed = [](int line, std::string text) {
+  return CimFailure{CIMException::FAILED, kSource, line, text};
+};
+const auto badParameter = [](int line, std::string text) {
+  return CimFailure{CIMException::INVALID_PARAMETER, kSource, line, text};
+};
+const auto notFound = [](int line) {
+  return CimFailure{CIMException::NOT_FOUND, kSource, line, std::nullopt};
+};
+
 struct ModifyCase {
   const char* title;
   Properties properties;
-  CallInScript script;
+  CallInScript script;  // statuses of startChange, endChange and the setters
   CimFailure expected;
   std::vector<std::string> applied;
 };
 
 TEST_F(CallInProviderTest, ModifySequenceAppliesChecksAndReportsStatuses) {
   const Properties line{{"LineToAnswer", u16(2)}};
+  const std::vector<std::string> lineSet{"LineToAnswer"};
   const std::string changeFailed = "Could not make the requested change.\n";
   const std::string invalid =
       "The value of $prop.getName() is invalid.\n"
@@ -92,77 +102,44 @@ TEST_F(CallInProviderTest, ModifySequenceAppliesChecksAndReportsStatuses) {
   const std::string valuesInvalid =
       "One or more of the values specified for the Zeph_CallInSettingData was invalid.\n"
       "#CFG_000_0001#";
-  const CimCode failed = CIMException::FAILED, badParam = CIMException::INVALID_PARAMETER;
+  const std::string ringsAbove =
+      "The value of RingsBeforeAnswer must be <= 20\n"
+      "#CFG_000_0003,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,20#";
+  const std::string ringsBelow =
+      "The value of RingsBeforeAnswer must be >= 1\n"
+      "#CFG_000_0002,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,1#";
+  const Properties ringsThenTimer{
+      {"LineToAnswer", u16(2)}, {"RingsBeforeAnswer", u16(21)}, {"AutoDisableTimer", u16(5)}};
+  const Properties flagRingsLine{
+      {"AutoDisableFlag", CIMValue(true)}, {"RingsBeforeAnswer", u16(5)}, {"LineToAnswer", u16(1)}};
+  const Properties ignored{{"ElementName", CIMValue(String("x"))},
+                           {"DNNumber", CIMValue(String("1"))},
+                           {"linetoanswer", u16(1)},
+                           {"Bogus", u16(1)},
+                           {"AutoDisableTimer", CIMValue(CIMNULL)}};
+  const auto setter = [](const char* property, int status) {
+    return CallInScript(0, 0, {{property, status}});
+  };
   const std::vector<ModifyCase> cases = {
-      {"start 301",
-       line,
-       scripted(301),
-       {failed, kSource, 299, changeFailed + "#CFG_000_0001#"},
-       {}},
-      {"start 302",
-       line,
-       scripted(302),
-       {failed, kSource, 299, changeFailed + "#CFG_000_0001#"},
-       {}},
-      {"start 5", line, scripted(5), {failed, kSource, 299, changeFailed + "#RAS_MODEM_5#"}, {}},
-      {"setter 301",
-       line,
-       scripted(0, 0, {{"LineToAnswer", 301}}),
-       {badParam, kSource, 382, invalid},
-       {"LineToAnswer"}},
-      {"setter 7",
-       line,
-       scripted(0, 0, {{"LineToAnswer", 7}}),
-       {failed, kSource, 388, "#RAS_MODEM_7#"},
-       {"LineToAnswer"}},
-      {"setter 302",
-       line,
-       scripted(0, 0, {{"LineToAnswer", 302}}),
-       {failed, kSource, 388, "#RAS_MODEM_302#"},
-       {"LineToAnswer"}},
-      {"end 302",
-       line,
-       scripted(0, 302),
-       {badParam, kSource, 402, valuesInvalid},
-       {"LineToAnswer"}},
-      {"end 301",
-       line,
-       scripted(0, 301),
-       {badParam, kSource, 402, valuesInvalid},
-       {"LineToAnswer"}},
-      {"end 9", line, scripted(0, 9), {failed, kSource, 409, "#RAS_MODEM_9#"}, {"LineToAnswer"}},
-      {"rings above 20 stops before later properties",
-       {{"LineToAnswer", u16(2)}, {"RingsBeforeAnswer", u16(21)}, {"AutoDisableTimer", u16(5)}},
-       scripted(0),
-       {badParam, kSource, 334,
-        "The value of RingsBeforeAnswer must be <= 20\n"
-        "#CFG_000_0003,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,20#"},
-       {"LineToAnswer"}},
-      {"rings below 1",
-       {{"RingsBeforeAnswer", u16(0)}},
-       scripted(0),
-       {badParam, kSource, 342,
-        "The value of RingsBeforeAnswer must be >= 1\n"
-        "#CFG_000_0002,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,1#"},
-       {}},
-      {"rings 20", {{"RingsBeforeAnswer", u16(20)}}, scripted(0), kSuccess, {"RingsBeforeAnswer"}},
-      {"rings 1", {{"RingsBeforeAnswer", u16(1)}}, scripted(0), kSuccess, {"RingsBeforeAnswer"}},
+      {"start 301", line, {301}, failed(299, changeFailed + "#CFG_000_0001#"), {}},
+      {"start 302", line, {302}, failed(299, changeFailed + "#CFG_000_0001#"), {}},
+      {"start 5", line, {5}, failed(299, changeFailed + "#RAS_MODEM_5#"), {}},
+      {"setter 301", line, setter("LineToAnswer", 301), badParameter(382, invalid), lineSet},
+      {"setter 7", line, setter("LineToAnswer", 7), failed(388, "#RAS_MODEM_7#"), lineSet},
+      {"setter 302", line, setter("LineToAnswer", 302), failed(388, "#RAS_MODEM_302#"), lineSet},
+      {"end 302", line, {0, 302}, badParameter(402, valuesInvalid), lineSet},
+      {"end 301", line, {0, 301}, badParameter(402, valuesInvalid), lineSet},
+      {"end 9", line, {0, 9}, failed(409, "#RAS_MODEM_9#"), lineSet},
+      {"rings above 20 stops the walk", ringsThenTimer, {}, badParameter(334, ringsAbove), lineSet},
+      {"rings below 1", {{"RingsBeforeAnswer", u16(0)}}, {}, badParameter(342, ringsBelow), {}},
+      {"rings 20", {{"RingsBeforeAnswer", u16(20)}}, {}, kSuccess, {"RingsBeforeAnswer"}},
+      {"rings 1", {{"RingsBeforeAnswer", u16(1)}}, {}, kSuccess, {"RingsBeforeAnswer"}},
       {"setter failure stops the walk",
-       {{"AutoDisableFlag", CIMValue(true)},
-        {"RingsBeforeAnswer", u16(5)},
-        {"LineToAnswer", u16(1)}},
-       scripted(0, 0, {{"RingsBeforeAnswer", 7}}),
-       {failed, kSource, 388, "#RAS_MODEM_7#"},
+       flagRingsLine,
+       setter("RingsBeforeAnswer", 7),
+       failed(388, "#RAS_MODEM_7#"),
        {"AutoDisableFlag", "RingsBeforeAnswer"}},
-      {"read-only, unknown, miscased and null properties are skipped",
-       {{"ElementName", CIMValue(String("x"))},
-        {"DNNumber", CIMValue(String("1"))},
-        {"linetoanswer", u16(1)},
-        {"Bogus", u16(1)},
-        {"AutoDisableTimer", CIMValue(CIMNULL)}},
-       scripted(0),
-       kSuccess,
-       {}},
+      {"read-only, unknown, miscased and null properties are skipped", ignored, {}, kSuccess, {}},
   };
   for (const ModifyCase& c : cases) {
     callInScript() = c.script;
@@ -183,21 +160,18 @@ TEST_F(CallInProviderTest, LookupsFailWithNotFoundAndNoMessage) {
   other.setKeyValue("InstanceID", CIMValue(String("Velmar:Other")));
   CIMPropertyArray nullKey;
   nullKey.push_back(CIMProperty("InstanceID"));
-  const CimCode notFound = CIMException::NOT_FOUND;
-  EXPECT_EQ(get(other), (CimFailure{notFound, kSource, 559, std::nullopt}));
-  EXPECT_EQ(get(CIMObjectPath(CIMName("Zeph_CallInSettingData"), kNs)),
-            (CimFailure{notFound, kSource, 540, std::nullopt}));
-  EXPECT_EQ(get(CIMObjectPath(CIMName("Zeph_CallInSettingData"), nullKey)),
-            (CimFailure{notFound, kSource, 545, std::nullopt}));
+  EXPECT_EQ(get(other), notFound(559));
+  EXPECT_EQ(get(CIMObjectPath(CIMName("Zeph_CallInSettingData"), kNs)), notFound(540));
+  EXPECT_EQ(get(CIMObjectPath(CIMName("Zeph_CallInSettingData"), nullKey)), notFound(545));
 
   CIMInstance noKey("Zeph_CallInSettingData"), nullID = callIn("", {});
   nullID.setProperty("InstanceID", CIMValue(CIMNULL));
-  EXPECT_EQ(modify(noKey), (CimFailure{notFound, kSource, 571, std::nullopt}));
-  EXPECT_EQ(modify(nullID), (CimFailure{notFound, kSource, 576, std::nullopt}));
-  EXPECT_EQ(modify(callIn("Velmar:Other", {})), (CimFailure{notFound, kSource, 590, std::nullopt}));
+  EXPECT_EQ(modify(noKey), notFound(571));
+  EXPECT_EQ(modify(nullID), notFound(576));
+  EXPECT_EQ(modify(callIn("Velmar:Other", {})), notFound(590));
 
   callInScript().keyStatus = ras::kStatusNotProvided;
-  EXPECT_EQ(cimFailureOf([&] { listedIDs(); }), (CimFailure{notFound, kSource, 527, std::nullopt}));
+  EXPECT_EQ(cimFailureOf([&] { listedIDs(); }), notFound(527));
 }
 
 TEST_F(CallInProviderTest, GetInstanceFillsSucceedingGettersWithTheirWarnings) {
@@ -239,25 +213,6 @@ TEST_F(CallInProviderTest, CreateListsTheNewObjectAndRollsBackAFailedModify) {
   added.setKeyValue("InstanceID", CIMValue(String("Velmar:Added")));
   provider_.deleteInstance(env_, kNs, added);
   EXPECT_EQ(listedIDs(), (std::vector<std::string>{kInstanceID}));
-}
-
-TEST_F(CallInProviderTest, DefaultManagerRefusesCreateAndDeleteAndMethodsAreUnknown) {
-  Zeph_CallInSettingData::ClearInstanceManager();
-  Zeph_CallInSettingData fixed(kInstanceID);
-  const CimCode notSupported = CIMException::NOT_SUPPORTED;
-  EXPECT_EQ(cimFailureOf([&] { provider_.createInstance(env_, kNs, callIn("Velmar:New", {})); }),
-            (CimFailure{notSupported, kSource, 206,
-                        "The system cannot create the instance specified.\n#CFG_000_0005#"}));
-  CIMObjectPath path(CIMName("Zeph_CallInSettingData"), kNs);
-  path.setKeyValue("InstanceID", CIMValue(String(kInstanceID)));
-  EXPECT_EQ(cimFailureOf([&] { provider_.deleteInstance(env_, kNs, path); }),
-            (CimFailure{notSupported, kSource, 253,
-                        "The system cannot delete the instance specified.\n#CFG_000_0006#"}));
-  CIMParamValueArray out;
-  EXPECT_EQ(cimFailureOf([&] {
-              provider_.invokeMethod(env_, kNs, path, "ConnectLink", CIMParamValueArray(), out);
-            }),
-            (CimFailure{CIMException::METHOD_NOT_FOUND, kSource, 432, std::nullopt}));
 }
 
 TEST(DialOutSettingsProvider, TextLongerThan32CharactersIsRefusedBeforeTheSetter) {

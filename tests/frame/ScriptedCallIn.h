@@ -5,26 +5,21 @@
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Zeph_CallInSettingData.h"
 #include "Zeph_ImpactWarning.h"
 
 struct CallInScript {
-  int start = 0;
-  int end = 0;
+  CallInScript(int startStatus = 0, int endStatus = 0, std::map<std::string, int> setters = {})
+      : start(startStatus), end(endStatus), setterStatus(std::move(setters)) {}
+  int start;
+  int end;
   int keyStatus = 0;
   std::map<std::string, int> setterStatus;
   std::vector<std::string> applied;
 };
-
-inline CallInScript scripted(int start, int end = 0, std::map<std::string, int> setters = {}) {
-  CallInScript script;
-  script.start = start;
-  script.end = end;
-  script.setterStatus = std::move(setters);
-  return script;
-}
 
 inline CallInScript& callInScript() {
   static CallInScript script;

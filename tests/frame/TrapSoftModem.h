@@ -53,12 +53,11 @@ class TrapSoftModemInstaller {
  public:
   TrapSoftModemInstaller() { Zeph_SoftModem::SetInstanceManager(&manager_); }
   ~TrapSoftModemInstaller() {
-    disarm();
+    softModemTrap() = nullptr;
     for (manager_.startIteration(); manager_.hasNext();) delete manager_.next();
     Zeph_SoftModem::ClearInstanceManager();
   }
   void arm(std::function<void()> trap) { softModemTrap() = std::move(trap); }
-  void disarm() { softModemTrap() = nullptr; }
 
  private:
   TrapSoftModemManager manager_;
