@@ -30,17 +30,31 @@ class InstanceManagerTest : public ::testing::Test {
   Zeph_CallInSettingDataInstanceManager manager_;
 };
 
-TEST_F(InstanceManagerTest, IteratesInByteOrderOfKeysAndRefusesToGoPastTheEnd) {
-  Zeph_CallInSettingData b("b"), upper("B"), a("a");
+TEST_F(InstanceManagerTest, IteratesInByteOrderOfKeysAndSurvivesRemovalUnderTheCursor) {
+  Zeph_CallInSettingData b("b"), a("a");
+  auto upper = std::make_unique<Zeph_CallInSettingData>("B");
   EXPECT_EQ(iteratedKeys(), (std::vector<std::string>{"B", "a", "b"}));
   EXPECT_FALSE(manager_.hasNext());
   EXPECT_THROW(manager_.next(), CFG_NoInstance);
   manager_.startIteration();
   manager_.endIteration();
   EXPECT_FALSE(manager_.hasNext());
+  // Removing the entry under the cursor leaves the cursor on the next one.
+  manager_.startIteration();
+  upper.reset();
+  ASSERT_TRUE(manager_.hasNext());
+  EXPECT_EQ(manager_.next(), &a);
+  EXPECT_EQ(manager_.next(), &b);
+  EXPECT_FALSE(manager_.hasNext());
 }
 
-TEST_F(InstanceManagerTest, DuplicateKeyReplacesAndDestroyingEitherRemovesTheEntry) {
+TEST_F(InstanceManagerTest, LookupFindsTheLastObjectOfAKeyAndThrowsForAbsentKeys) {
+  Zeph_CallInSettingData present("Velmar:Zeph_CallInSettingData");
+  EXPECT_EQ(manager_.get("Velmar:Zeph_CallInSettingData"), &present);
+  for (const char* key : {"", "Velmar:Zeph_CallInSettingDat", "velmar:zeph_callinsettingdata"}) {
+    EXPECT_THROW(manager_.get(key), CFG_NoInstance) << key;
+  }
+  // A duplicate key replaces the entry; destroying either object removes it.
   for (bool destroyFirst : {true, false}) {
     auto first = std::make_unique<Zeph_CallInSettingData>("same");
     auto second = std::make_unique<Zeph_CallInSettingData>("same");
@@ -50,32 +64,12 @@ TEST_F(InstanceManagerTest, DuplicateKeyReplacesAndDestroyingEitherRemovesTheEnt
   }
 }
 
-TEST_F(InstanceManagerTest, LookupOfAnAbsentKeyThrows) {
-  Zeph_CallInSettingData present("Velmar:Zeph_CallInSettingData");
-  EXPECT_EQ(manager_.get("Velmar:Zeph_CallInSettingData"), &present);
-  for (const char* key : {"", "Velmar:Zeph_CallInSettingDat", "velmar:zeph_callinsettingdata"}) {
-    EXPECT_THROW(manager_.get(key), CFG_NoInstance) << key;
-  }
-}
-
-TEST_F(InstanceManagerTest, RemovingTheEntryUnderTheCursorKeepsTheIterationValid) {
-  auto a = std::make_unique<Zeph_CallInSettingData>("a");
-  Zeph_CallInSettingData b("b");
-  manager_.startIteration();
-  a.reset();
-  ASSERT_TRUE(manager_.hasNext());
-  EXPECT_EQ(manager_.next(), &b);
-  EXPECT_FALSE(manager_.hasNext());
-}
-
-TEST_F(InstanceManagerTest, BaseManagerCannotCreateOrDestroy) {
+TEST_F(InstanceManagerTest, OnlyTheImplementationManagerCreatesAndDestroys) {
   Zeph_CallInSettingData present("x");
   EXPECT_THROW(manager_.createZeph_CallInSettingData("y"), CFG_InstanceCreationFailed);
   EXPECT_THROW(manager_.destroyZeph_CallInSettingData(&present), CFG_InstanceDeletionFailed);
   EXPECT_EQ(manager_.get("x"), &present);
-}
 
-TEST(ImplInstanceManager, CreatesRegisteredObjectsAndDeletesThem) {
   ras::ImplInstanceManager<Zeph_CallInSettingDataInstanceManager, Zeph_CallInSettingData> impl;
   EXPECT_EQ(Zeph_CallInSettingData::SetInstanceManager(&impl), ras::kStatusOk);
   Zeph_CallInSettingData* created = impl.createZeph_CallInSettingData("new");
@@ -83,7 +77,7 @@ TEST(ImplInstanceManager, CreatesRegisteredObjectsAndDeletesThem) {
   impl.destroyZeph_CallInSettingData(created);
   EXPECT_THROW(impl.get("new"), CFG_NoInstance);
   impl.destroyZeph_CallInSettingData(nullptr);
-  Zeph_CallInSettingData::ClearInstanceManager();
+  Zeph_CallInSettingData::SetInstanceManager(&manager_);
 }
 
 TEST(ClassModel, ObjectsEnterTheCurrentManagerAndFourKeysAreConcatenated) {

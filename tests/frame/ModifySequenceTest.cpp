@@ -84,6 +84,21 @@ const auto notFound = [](int line) {
   return CimFailure{CIMException::NOT_FOUND, kSource, line, std::nullopt};
 };
 
+// The texts of the change sequence's refusals.
+const std::string kChangeFailed = "Could not make the requested change.\n";
+const std::string kInvalid =
+    "The value of $prop.getName() is invalid.\n"
+    "#CFG_000_0000,MOF_Props_Zeph_CallInSettingData_$prop.getName()#";
+const std::string kValuesInvalid =
+    "One or more of the values specified for the Zeph_CallInSettingData was invalid.\n"
+    "#CFG_000_0001#";
+const std::string kRingsAbove =
+    "The value of RingsBeforeAnswer must be <= 20\n"
+    "#CFG_000_0003,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,20#";
+const std::string kRingsBelow =
+    "The value of RingsBeforeAnswer must be >= 1\n"
+    "#CFG_000_0002,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,1#";
+
 struct ModifyCase {
   const char* title;
   Properties properties;
@@ -95,19 +110,6 @@ struct ModifyCase {
 TEST_F(CallInProviderTest, ModifySequenceAppliesChecksAndReportsStatuses) {
   const Properties line{{"LineToAnswer", u16(2)}};
   const std::vector<std::string> lineSet{"LineToAnswer"};
-  const std::string changeFailed = "Could not make the requested change.\n";
-  const std::string invalid =
-      "The value of $prop.getName() is invalid.\n"
-      "#CFG_000_0000,MOF_Props_Zeph_CallInSettingData_$prop.getName()#";
-  const std::string valuesInvalid =
-      "One or more of the values specified for the Zeph_CallInSettingData was invalid.\n"
-      "#CFG_000_0001#";
-  const std::string ringsAbove =
-      "The value of RingsBeforeAnswer must be <= 20\n"
-      "#CFG_000_0003,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,20#";
-  const std::string ringsBelow =
-      "The value of RingsBeforeAnswer must be >= 1\n"
-      "#CFG_000_0002,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,1#";
   const Properties ringsThenTimer{
       {"LineToAnswer", u16(2)}, {"RingsBeforeAnswer", u16(21)}, {"AutoDisableTimer", u16(5)}};
   const Properties flagRingsLine{
@@ -121,17 +123,21 @@ TEST_F(CallInProviderTest, ModifySequenceAppliesChecksAndReportsStatuses) {
     return CallInScript(0, 0, {{property, status}});
   };
   const std::vector<ModifyCase> cases = {
-      {"start 301", line, {301}, failed(299, changeFailed + "#CFG_000_0001#"), {}},
-      {"start 302", line, {302}, failed(299, changeFailed + "#CFG_000_0001#"), {}},
-      {"start 5", line, {5}, failed(299, changeFailed + "#RAS_MODEM_5#"), {}},
-      {"setter 301", line, setter("LineToAnswer", 301), badParameter(382, invalid), lineSet},
+      {"start 301", line, {301}, failed(299, kChangeFailed + "#CFG_000_0001#"), {}},
+      {"start 302", line, {302}, failed(299, kChangeFailed + "#CFG_000_0001#"), {}},
+      {"start 5", line, {5}, failed(299, kChangeFailed + "#RAS_MODEM_5#"), {}},
+      {"setter 301", line, setter("LineToAnswer", 301), badParameter(382, kInvalid), lineSet},
       {"setter 7", line, setter("LineToAnswer", 7), failed(388, "#RAS_MODEM_7#"), lineSet},
       {"setter 302", line, setter("LineToAnswer", 302), failed(388, "#RAS_MODEM_302#"), lineSet},
-      {"end 302", line, {0, 302}, badParameter(402, valuesInvalid), lineSet},
-      {"end 301", line, {0, 301}, badParameter(402, valuesInvalid), lineSet},
+      {"end 302", line, {0, 302}, badParameter(402, kValuesInvalid), lineSet},
+      {"end 301", line, {0, 301}, badParameter(402, kValuesInvalid), lineSet},
       {"end 9", line, {0, 9}, failed(409, "#RAS_MODEM_9#"), lineSet},
-      {"rings above 20 stops the walk", ringsThenTimer, {}, badParameter(334, ringsAbove), lineSet},
-      {"rings below 1", {{"RingsBeforeAnswer", u16(0)}}, {}, badParameter(342, ringsBelow), {}},
+      {"rings above 20 stops the walk",
+       ringsThenTimer,
+       {},
+       badParameter(334, kRingsAbove),
+       lineSet},
+      {"rings below 1", {{"RingsBeforeAnswer", u16(0)}}, {}, badParameter(342, kRingsBelow), {}},
       {"rings 20", {{"RingsBeforeAnswer", u16(20)}}, {}, kSuccess, {"RingsBeforeAnswer"}},
       {"rings 1", {{"RingsBeforeAnswer", u16(1)}}, {}, kSuccess, {"RingsBeforeAnswer"}},
       {"setter failure stops the walk",

@@ -81,16 +81,11 @@ class ProviderContract : public ::testing::Test {
   }
 
   static CIMValue sampleOf(const ras::Property<W>& row) {
-    switch (row.type) {
-      case ras::CimType::UInt16:
-        return CIMValue(UInt16(5));
-      case ras::CimType::UInt8:
-        return CIMValue(UInt8(1));
-      case ras::CimType::Boolean:
-        return CIMValue(true);
-      default:
-        return CIMValue(String("x"));
-    }
+    using ras::CimType;
+    return row.type == CimType::UInt16    ? CIMValue(UInt16(5))
+           : row.type == CimType::UInt8   ? CIMValue(UInt8(1))
+           : row.type == CimType::Boolean ? CIMValue(true)
+                                          : CIMValue(String("x"));
   }
 
   TestEnvRef env_ = TestEnvironment::make();

@@ -8,7 +8,6 @@
 #include "OW_CIMQualifierType.hpp"
 #include "OW_CIMValue.hpp"
 #include "OW_LogMessage.hpp"
-#include "OW_RepositoryIFC.hpp"
 
 using namespace OpenWBEM;
 
@@ -80,7 +79,3 @@ TestEnvironment::TestEnvironment()
     : lines_(std::make_shared<std::vector<LogLine>>()),
       logger_(new RecordingLogger(lines_)),
       handle_(new StubCIMOMHandle) {}
-
-RepositoryIFCRef TestEnvironment::getRepository() const {
-  return RepositoryIFCRef();
-}

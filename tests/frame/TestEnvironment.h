@@ -12,6 +12,7 @@
 #include "OW_Logger.hpp"
 #include "OW_OperationContext.hpp"
 #include "OW_ProviderEnvironmentIFC.hpp"
+#include "OW_RepositoryIFC.hpp"
 #include "OW_String.hpp"
 
 struct LogLine {
@@ -43,7 +44,7 @@ class TestEnvironment : public OpenWBEM::ProviderEnvironmentIFC {
 
   OpenWBEM::CIMOMHandleIFCRef getCIMOMHandle() const override { return handle_; }
   OpenWBEM::CIMOMHandleIFCRef getRepositoryCIMOMHandle() const override { return handle_; }
-  OpenWBEM::RepositoryIFCRef getRepository() const override;
+  OpenWBEM::RepositoryIFCRef getRepository() const override { return {}; }
   OpenWBEM::LoggerRef getLogger() const override { return logger_; }
   OpenWBEM::LoggerRef getLogger(const OpenWBEM::String&) const override { return logger_; }
   OpenWBEM::String getConfigItem(const OpenWBEM::String&,
