@@ -42,7 +42,7 @@ CIMValue u16(unsigned short v) {
 class CallInProviderTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    callInScript() = CallInScript();
+    callInScript = CallInScript();
     Zeph_CallInSettingData::SetInstanceManager(&manager_);
   }
   void TearDown() override {
@@ -57,6 +57,18 @@ class CallInProviderTest : public ::testing::Test {
       provider_.modifyInstance(env_, kNs, instance, instance, WBEMFlags::E_EXCLUDE_QUALIFIERS, 0,
                                kNoClass);
     });
+  }
+
+  static CIMObjectPath pathOf(const char* id) {
+    CIMObjectPath path(CIMName("Zeph_CallInSettingData"), kNs);
+    if (id != nullptr) path.setKeyValue("InstanceID", CIMValue(String(id)));
+    return path;
+  }
+
+  CIMInstance get(const CIMObjectPath& path) {
+    return provider_.getInstance(env_, kNs, path, WBEMFlags::E_NOT_LOCAL_ONLY,
+                                 WBEMFlags::E_EXCLUDE_QUALIFIERS, WBEMFlags::E_EXCLUDE_CLASS_ORIGIN,
+                                 0, kNoClass);
   }
 
   std::vector<std::string> listedIDs() {
@@ -148,27 +160,21 @@ TEST_F(CallInProviderTest, ModifySequenceAppliesChecksAndReportsStatuses) {
       {"read-only, unknown, miscased and null properties are skipped", ignored, {}, kSuccess, {}},
   };
   for (const ModifyCase& c : cases) {
-    callInScript() = c.script;
+    callInScript = c.script;
     EXPECT_EQ(modify(callIn(kInstanceID, c.properties)), c.expected) << c.title;
-    EXPECT_EQ(callInScript().applied, c.applied) << c.title;
+    EXPECT_EQ(callInScript.applied, c.applied) << c.title;
   }
 }
 
 TEST_F(CallInProviderTest, LookupsFailWithNotFoundAndNoMessage) {
-  const auto get = [&](const CIMObjectPath& path) {
-    return cimFailureOf([&] {
-      provider_.getInstance(env_, kNs, path, WBEMFlags::E_NOT_LOCAL_ONLY,
-                            WBEMFlags::E_EXCLUDE_QUALIFIERS, WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0,
-                            kNoClass);
-    });
+  const auto getFailure = [&](const CIMObjectPath& path) {
+    return cimFailureOf([&] { get(path); });
   };
-  CIMObjectPath other(CIMName("Zeph_CallInSettingData"), kNs);
-  other.setKeyValue("InstanceID", CIMValue(String("Velmar:Other")));
   CIMPropertyArray nullKey;
   nullKey.push_back(CIMProperty("InstanceID"));
-  EXPECT_EQ(get(other), notFound(559));
-  EXPECT_EQ(get(CIMObjectPath(CIMName("Zeph_CallInSettingData"), kNs)), notFound(540));
-  EXPECT_EQ(get(CIMObjectPath(CIMName("Zeph_CallInSettingData"), nullKey)), notFound(545));
+  EXPECT_EQ(getFailure(pathOf("Velmar:Other")), notFound(559));
+  EXPECT_EQ(getFailure(pathOf(nullptr)), notFound(540));
+  EXPECT_EQ(getFailure(CIMObjectPath(CIMName("Zeph_CallInSettingData"), nullKey)), notFound(545));
 
   CIMInstance noKey("Zeph_CallInSettingData"), nullID = callIn("", {});
   nullID.setProperty("InstanceID", CIMValue(CIMNULL));
@@ -176,18 +182,14 @@ TEST_F(CallInProviderTest, LookupsFailWithNotFoundAndNoMessage) {
   EXPECT_EQ(modify(nullID), notFound(576));
   EXPECT_EQ(modify(callIn("Velmar:Other", {})), notFound(590));
 
-  callInScript().keyStatus = ras::kStatusNotProvided;
+  callInScript.keyStatus = ras::kStatusNotProvided;
   EXPECT_EQ(cimFailureOf([&] { listedIDs(); }), notFound(527));
 }
 
 TEST_F(CallInProviderTest, GetInstanceFillsSucceedingGettersWithTheirWarnings) {
   ConnectionStatus = true;
   check_key = "DialInEndpoint";
-  CIMObjectPath path(CIMName("Zeph_CallInSettingData"), kNs);
-  path.setKeyValue("InstanceID", CIMValue(String(kInstanceID)));
-  const CIMInstance instance = provider_.getInstance(
-      env_, kNs, path, WBEMFlags::E_NOT_LOCAL_ONLY, WBEMFlags::E_EXCLUDE_QUALIFIERS,
-      WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0, kNoClass);
+  const CIMInstance instance = get(pathOf(kInstanceID));
   std::vector<std::string> names;
   for (const CIMProperty& property : instance.getProperties())
     names.push_back(property.getName().c_str());
@@ -215,9 +217,7 @@ TEST_F(CallInProviderTest, CreateListsTheNewObjectAndRollsBackAFailedModify) {
   EXPECT_EQ(refused.line, 334);
   EXPECT_EQ(listedIDs(), (std::vector<std::string>{"Velmar:Added", kInstanceID}));
 
-  CIMObjectPath added(CIMName("Zeph_CallInSettingData"), kNs);
-  added.setKeyValue("InstanceID", CIMValue(String("Velmar:Added")));
-  provider_.deleteInstance(env_, kNs, added);
+  provider_.deleteInstance(env_, kNs, pathOf("Velmar:Added"));
   EXPECT_EQ(listedIDs(), (std::vector<std::string>{kInstanceID}));
 }
 

@@ -21,20 +21,17 @@ struct CallInScript {
   std::vector<std::string> applied;
 };
 
-inline CallInScript& callInScript() {
-  static CallInScript script;
-  return script;
-}
+inline CallInScript callInScript;
 
 class ScriptedCallIn : public Zeph_CallInSettingData {
  public:
   using Zeph_CallInSettingData::Zeph_CallInSettingData;
 
-  int startChange() override { return callInScript().start; }
-  int endChange() override { return callInScript().end; }
+  int startChange() override { return callInScript.start; }
+  int endChange() override { return callInScript.end; }
   int getInstanceID(std::string& value, ras::Qualifiers& qualifiers) const override {
     Zeph_CallInSettingData::getInstanceID(value, qualifiers);
-    return callInScript().keyStatus;
+    return callInScript.keyStatus;
   }
   int getElementName(std::string& value, ras::Qualifiers&) const override {
     value = "Dial-In Configuration";
@@ -60,8 +57,8 @@ class ScriptedCallIn : public Zeph_CallInSettingData {
 
  private:
   static int record(const std::string& property) {
-    callInScript().applied.push_back(property);
-    return callInScript().setterStatus[property];
+    callInScript.applied.push_back(property);
+    return callInScript.setterStatus[property];
   }
 };
 

@@ -8,13 +8,10 @@
 
 #include "Zeph_SoftModem.h"
 
-inline std::function<void()>& softModemTrap() {
-  static std::function<void()> trap;
-  return trap;
-}
+inline std::function<void()> softModemTrap;
 
 inline void springSoftModemTrap() {
-  if (softModemTrap()) softModemTrap()();
+  if (softModemTrap) softModemTrap();
 }
 
 class TrapSoftModem : public Zeph_SoftModem {
@@ -53,11 +50,11 @@ class TrapSoftModemInstaller {
  public:
   TrapSoftModemInstaller() { Zeph_SoftModem::SetInstanceManager(&manager_); }
   ~TrapSoftModemInstaller() {
-    softModemTrap() = nullptr;
+    softModemTrap = nullptr;
     for (manager_.startIteration(); manager_.hasNext();) delete manager_.next();
     Zeph_SoftModem::ClearInstanceManager();
   }
-  void arm(std::function<void()> trap) { softModemTrap() = std::move(trap); }
+  void arm(std::function<void()> trap) { softModemTrap = std::move(trap); }
 
  private:
   TrapSoftModemManager manager_;
