@@ -40,110 +40,75 @@ class RouteScriptsTest : public ApplianceTest {};
 TEST_F(RouteScriptsTest, EditTheArraysAsTheModuleExpects) {
   const std::vector<ScriptCase> rows = {
       {"delete the front element",
-       kRouteFile,
        kThree,
        {"delRoute", "0", "3"},
        0,
        count(3) + array("ROUTES", {"10.2.0.0", "10.3.0.0"}) + kMasks3 + kMetrics3},
       {"delete a middle element",
-       kRouteFile,
        kThree,
        {"delMask", "1", "3"},
        0,
        count(3) + kRoutes3 + array("NETMASK", {"255.255.0.0", "255.252.0.0"}) + kMetrics3},
       {"delete the last element leaves the continuation",
-       kRouteFile,
        kThree,
        {"delMetric", "2", "3"},
        0,
        count(3) + kRoutes3 + kMasks3 + array("METRIC", {"1", "2"}, true)},
       {"remove the continuation of the new last element",
-       kRouteFile,
        count(2) + array("ROUTES", {"10.1.0.0", "10.2.0.0"}, true),
        {"setRoute_removebackslash", "1", "10.2.0.0"},
        0,
        count(2) + array("ROUTES", {"10.1.0.0", "10.2.0.0"})},
       {"remove the continuation of an element holding another value",
-       kRouteFile,
        count(2) + array("METRIC", {"1", "2"}, true),
        {"setMetric_removebackslash", "1", "3"},
        2,
        count(2) + array("METRIC", {"1", "2"}, true)},
       {"delete the only route",
-       kRouteFile,
        count(1) + array("ROUTES", {"10.1.0.0"}),
        {"delfirstRoute"},
        0,
        count(1) + array("ROUTES", {})},
       {"delete an element the array does not have",
-       kRouteFile,
        count(3) + array("NETMASK", {"255.255.0.0", "255.254.0.0"}),
        {"delMask", "2", "3"},
        0,
        count(3) + array("NETMASK", {"255.255.0.0", "255.254.0.0"})},
-      {"delete with an index beyond the count",
-       kRouteFile,
-       kThree,
-       {"delRoute", "3", "3"},
-       2,
-       kThree},
+      {"delete with an index beyond the count", kThree, {"delRoute", "3", "3"}, 2, kThree},
       {"append after the last element",
-       kRouteFile,
        count(3) + array("ROUTES", {"10.1.0.0", "10.2.0.0", "10.3.0.0"}, true) + kMasks3,
        {"setRoute", "3", "10.4.0.0"},
        0,
        count(3) + array("ROUTES", {"10.1.0.0", "10.2.0.0", "10.3.0.0", "10.4.0.0"}) + kMasks3},
-      {"append an element that exists",
-       kRouteFile,
-       kThree,
-       {"setMask", "1", "255.0.0.0"},
-       2,
-       kThree},
-      {"append a metric that is not a number",
-       kRouteFile,
-       kThree,
-       {"setMetric", "3", "x"},
-       2,
-       kThree},
+      {"append an element that exists", kThree, {"setMask", "1", "255.0.0.0"}, 2, kThree},
+      {"append a metric that is not a number", kThree, {"setMetric", "3", "x"}, 2, kThree},
       {"first element of an empty array",
-       kRouteFile,
        count(0) + array("ROUTES", {}) + kMasks3,
        {"setfirstRoute", "10.9.0.0"},
        0,
        count(0) + array("ROUTES", {"10.9.0.0"}) + kMasks3},
       {"first element of a missing array",
-       kRouteFile,
        count(1) + array("ROUTES", {"10.9.0.0"}),
        {"setfirstMask", "255.255.255.0"},
        0,
        count(1) + array("ROUTES", {"10.9.0.0"}) + array("NETMASK", {"255.255.255.0"})},
       {"first element replaced, continuation kept",
-       kRouteFile,
        kThree,
        {"setfirstMetric", "9"},
        0,
        count(3) + kRoutes3 + kMasks3 + array("METRIC", {"9", "2", "3"})},
-      {"route count",
-       kRouteFile,
-       kThree,
-       {"setNumRoute", "2"},
-       0,
-       count(2) + kRoutes3 + kMasks3 + kMetrics3},
-      {"route count that is not a number", kRouteFile, kThree, {"setNumRoute", "2;"}, 2, kThree},
+      {"route count", kThree, {"setNumRoute", "2"}, 0, count(2) + kRoutes3 + kMasks3 + kMetrics3},
+      {"route count that is not a number", kThree, {"setNumRoute", "2;"}, 2, kThree},
   };
-  for (const ScriptCase& row : rows) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(runScriptCase(row), row.status);
-    EXPECT_EQ(readFile(row.path), row.after);
-  }
+  expectScriptCases(rows, kRouteFile);
 }
 
 TEST_F(RouteScriptsTest, FirstRouteWithoutAFileCreatesAnExecutableRouteFile) {
   removeFile(kRouteFile);
-  ASSERT_EQ(runTool({std::string(kScriptDir) + "setfirstRoute", "10.5.0.0"}).status, 0);
-  ASSERT_EQ(runTool({std::string(kScriptDir) + "setNumRoute", "1"}).status, 0);
-  ASSERT_EQ(runTool({std::string(kScriptDir) + "setfirstMask", "255.255.0.0"}).status, 0);
-  ASSERT_EQ(runTool({std::string(kScriptDir) + "setfirstMetric", "4"}).status, 0);
+  ASSERT_EQ(runScript({"setfirstRoute", "10.5.0.0"}).status, 0);
+  ASSERT_EQ(runScript({"setNumRoute", "1"}).status, 0);
+  ASSERT_EQ(runScript({"setfirstMask", "255.255.0.0"}).status, 0);
+  ASSERT_EQ(runScript({"setfirstMetric", "4"}).status, 0);
 
   EXPECT_EQ(readFile(kRouteFile),
             "#!/bin/bash\n"
@@ -164,9 +129,9 @@ TEST_F(RouteScriptsTest, RoutesAreInstalledOnTheDialOutLink) {
   EXPECT_EQ(readFile("/var/lib/appliance/routes"),
             "10.1.0.0 255.255.0.0 1 ppp1\n172.16.0.0 255.240.0.0 5 ppp1\n");
 
-  ASSERT_EQ(runTool({std::string(kScriptDir) + "setRoute", "2", "192.168.7.0"}).status, 0);
-  ASSERT_EQ(runTool({std::string(kScriptDir) + "setMask", "2", "255.255.255.0"}).status, 0);
-  ASSERT_EQ(runTool({std::string(kScriptDir) + "addRoute", "2"}).status, 0);
+  ASSERT_EQ(runScript({"setRoute", "2", "192.168.7.0"}).status, 0);
+  ASSERT_EQ(runScript({"setMask", "2", "255.255.255.0"}).status, 0);
+  ASSERT_EQ(runScript({"addRoute", "2"}).status, 0);
   EXPECT_EQ(readLines("/var/lib/appliance/routes").back(), "192.168.7.0 255.255.255.0 0 ppp1");
 
   linkDown("ppp1");

@@ -2,6 +2,8 @@
 // the expected exit status and the file as it must be afterwards.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
@@ -9,19 +11,28 @@
 
 struct ScriptCase {
   const char* name;
-  std::string path;
   std::string before;
   std::vector<std::string> command;
   int status;
   std::string after;
+  std::string path = "";  // the file the script edits; empty: the table's file
 };
 
 inline constexpr char kScriptDir[] = "/opt/etc/RasProviderScripts/";
 
-// Writes the file, runs the script (no shell) and returns its exit status.
-inline int runScriptCase(const ScriptCase& row) {
-  appliance::writeFile(row.path, row.before);
-  std::vector<std::string> argv = row.command;
+// Runs the helper script argv[0] with the arguments, without a shell.
+inline appliance::ToolResult runScript(std::vector<std::string> argv) {
   argv[0] = kScriptDir + argv[0];
-  return appliance::runTool(argv).status;
+  return appliance::runTool(argv);
+}
+
+// For each row: writes the file, runs the script, checks its exit status and the file after.
+inline void expectScriptCases(const std::vector<ScriptCase>& rows, const std::string& file) {
+  for (const ScriptCase& row : rows) {
+    SCOPED_TRACE(row.name);
+    const std::string& path = row.path.empty() ? file : row.path;
+    appliance::writeFile(path, row.before);
+    EXPECT_EQ(runScript(row.command).status, row.status);
+    EXPECT_EQ(appliance::readFile(path), row.after);
+  }
 }
