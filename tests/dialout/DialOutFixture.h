@@ -5,31 +5,22 @@
 #define DIALOUT_DIALOUTFIXTURE_H
 
 #include <map>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "AccountHandle.hpp"
 #include "ApplianceTest.h"
 #include "CimFailure.h"
+#include "MofSchema.hpp"
+#include "OW_CIMClass.hpp"
 #include "OW_CIMInstance.hpp"
+#include "OW_CIMObjectPath.hpp"
 #include "OW_CIMValue.hpp"
 #include "TestEnvironment.h"
+#include "Zeph_ModuleGlobals.h"
 #include "Zeph_RASProvider.h"
-
-// The test environment whose CIMOM handle serves Zeph_Account in root/cimv2 from the
-// appliance's account list, as the CIMOM on the appliance does.
-class AccountEnvironment : public TestEnvironment {
- public:
-  AccountEnvironment();
-  static OpenWBEM::IntrusiveReference<AccountEnvironment> make() { return new AccountEnvironment; }
-
-  OpenWBEM::CIMOMHandleIFCRef getCIMOMHandle() const override { return accounts_; }
-  OpenWBEM::CIMOMHandleIFCRef getRepositoryCIMOMHandle() const override { return accounts_; }
-  OpenWBEM::ProviderEnvironmentIFCRef clone() const override { return new AccountEnvironment; }
-
- private:
-  OpenWBEM::CIMOMHandleIFCRef accounts_;
-};
 
 inline constexpr char kDialOutClass[] = "Zeph_DialOutSettingData";
 inline constexpr char kDialOutID[] = "Velmar:Zeph_DialOutSettingData";
@@ -45,31 +36,82 @@ inline constexpr char kAccountsFile[] = "/var/lib/appliance/accounts";
 inline const std::vector<std::string> kDialOutFiles = {kCallScript, kCallbackScript,
                                                        kDialOutOptions, kPapSecrets, kChapSecrets};
 
+// The test environment whose CIMOM handle serves Zeph_Account in root/cimv2 from the
+// appliance's account list, as the CIMOM on the appliance does.
+class AccountEnvironment : public TestEnvironment {
+ public:
+  static OpenWBEM::IntrusiveReference<AccountEnvironment> make() { return new AccountEnvironment; }
+
+  OpenWBEM::CIMOMHandleIFCRef getCIMOMHandle() const override { return accounts_; }
+  OpenWBEM::CIMOMHandleIFCRef getRepositoryCIMOMHandle() const override { return accounts_; }
+  OpenWBEM::ProviderEnvironmentIFCRef clone() const override { return new AccountEnvironment; }
+
+ private:
+  static std::shared_ptr<const rascim::MofSchema> schema() {
+    static const auto loaded = [] {
+      auto mof = std::make_shared<rascim::MofSchema>();
+      mof->load(RAS_MOF_DIR);
+      return std::shared_ptr<const rascim::MofSchema>(mof);
+    }();
+    return loaded;
+  }
+  OpenWBEM::CIMOMHandleIFCRef accounts_{new rascim::AccountHandle(kAccountsFile, schema())};
+};
+
 using Change = std::pair<std::string, OpenWBEM::CIMValue>;
 
 class DialOutTest : public ApplianceTest {
  protected:
-  void SetUp() override;
+  // Loads the module into the fresh appliance (the instance reads its files when it is built).
+  void SetUp() override {
+    ApplianceTest::SetUp();
+    ConnectionStatus = DialOutConnectionStatus = false;
+    check_key.clear();
+    env_ = AccountEnvironment::make();
+    provider_->initialize(env_);
+  }
 
-  // Loads the module afresh (the instance reads its files when it is built).
-  void initializeModule();
+  OpenWBEM::CIMInstance get() {
+    OpenWBEM::CIMObjectPath path(OpenWBEM::CIMName(kDialOutClass), kNs);
+    path.setKeyValue("InstanceID", OpenWBEM::CIMValue(OpenWBEM::String(kDialOutID)));
+    return provider_->getInstance(env_, kNs, path, OpenWBEM::WBEMFlags::E_NOT_LOCAL_ONLY,
+                                  OpenWBEM::WBEMFlags::E_INCLUDE_QUALIFIERS,
+                                  OpenWBEM::WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0, kNoClass);
+  }
 
-  OpenWBEM::CIMObjectPath path() const;
-  OpenWBEM::CIMInstance get();
   // Modifies the instance with the given properties in order; the CIM error, if any.
-  CimFailure modify(const std::vector<Change>& changes);
+  CimFailure modify(const std::vector<Change>& changes) {
+    OpenWBEM::CIMInstance instance(kDialOutClass);
+    instance.setProperty("InstanceID", OpenWBEM::CIMValue(OpenWBEM::String(kDialOutID)));
+    for (const auto& [name, value] : changes) instance.setProperty(name.c_str(), value);
+    return cimFailureOf([&] {
+      provider_->modifyInstance(env_, kNs, instance, instance,
+                                OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS, 0, kNoClass);
+    });
+  }
 
   // Every dial-out file's content, by path.
-  static std::map<std::string, std::string> files();
-  // Texts logged since the module was initialised.
-  std::vector<std::string> logged() const;
+  static std::map<std::string, std::string> files() {
+    std::map<std::string, std::string> content;
+    for (const std::string& file : kDialOutFiles) content[file] = appliance::readFile(file);
+    return content;
+  }
 
+  // Texts logged since the module was initialised.
+  std::vector<std::string> logged() const {
+    std::vector<std::string> texts;
+    for (const LogLine& line : env_->logged()) texts.push_back(line.text);
+    return texts;
+  }
+
+  const OpenWBEM::String kNs{"root/cimv2"};
+  const OpenWBEM::CIMClass kNoClass{OpenWBEM::CIMNULL};
   OpenWBEM::IntrusiveReference<AccountEnvironment> env_;
-  OpenWBEM::IntrusiveReference<OpenWBEM::CppProviderBaseIFC> module_;
-  Zeph_RASProvider* dispatcher_ = nullptr;
+  OpenWBEM::IntrusiveReference<Zeph_RASProvider> provider_{new Zeph_RASProvider};
 };
 
-std::string textOf(const OpenWBEM::CIMValue& value);
-std::vector<std::string> textsOf(const OpenWBEM::CIMValue& value);
+inline std::string textOf(const OpenWBEM::CIMValue& value) {
+  return value ? value.toString().c_str() : "<null>";
+}
 
 #endif

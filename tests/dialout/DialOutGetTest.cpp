@@ -9,20 +9,23 @@
 #include "OW_CIMProperty.hpp"
 #include "OW_CIMQualifier.hpp"
 #include "Zeph_DialOutSettingDataImpl.h"
-#include "Zeph_ModuleGlobals.h"
 
 namespace {
 
 using namespace OpenWBEM;
+using Texts = std::vector<std::string>;
 
 // Every qualifier of a property as "NAME=VALUE" (array values joined with "|").
-std::vector<std::string> qualifiersOf(const CIMProperty& property) {
-  std::vector<std::string> out;
+Texts qualifiersOf(const CIMProperty& property) {
+  Texts out;
   for (const CIMQualifier& q : property.getQualifiers()) {
     const CIMValue value = q.getValue();
     std::string text;
     if (value && value.isArray()) {
-      for (const std::string& item : textsOf(value)) text += (text.empty() ? "" : "|") + item;
+      StringArray items;
+      value.get(items);
+      for (const String& item : items)
+        text += (text.empty() ? "" : "|") + std::string(item.c_str());
     } else {
       text = textOf(value);
     }
@@ -31,22 +34,27 @@ std::vector<std::string> qualifiersOf(const CIMProperty& property) {
   return out;
 }
 
-struct PropertyRow {
-  const char* name;
-  const char* value;
-  std::vector<std::string> qualifiers;
-};
+// The user name's qualifiers: the offered indexes and user names, each joined with "|".
+Texts offered(const std::string& indexes, const std::string& users) {
+  return {"ValueMap=" + indexes, "Values=" + users};
+}
+const Texts kTwoUsers = offered("0|1", "dialer|backup");
 
 using DialOutGet = DialOutTest;
 
 TEST_F(DialOutGet, ShowsEveryPropertyInOrderWithItsValueAndQualifiers) {
-  const std::vector<PropertyRow> rows = {
+  struct Row {
+    const char* name;
+    const char* value;
+    Texts qualifiers;
+  };
+  const std::vector<Row> rows = {
       {"InstanceID", kDialOutID, {}},
       {"ElementName", "Dial-Out Settings", {}},
       {"DialOutNumber", "5550199", {}},
       {"DialRetries", "3", {}},
       {"DialInterval", "30", {}},
-      {"DialOutUserName", "0", {"ValueMap=0|1", "Values=dialer|backup"}},
+      {"DialOutUserName", "0", kTwoUsers},
       // Loaded with the user name cached at start, which is empty: no secrets line matches.
       {"DialOutPassword", "", {}},
   };
@@ -61,16 +69,15 @@ TEST_F(DialOutGet, ShowsEveryPropertyInOrderWithItsValueAndQualifiers) {
 }
 
 TEST_F(DialOutGet, LoadsFromTheScriptsAndLogsWhatItRead) {
-  const std::vector<std::string> journal = appliance::journal();
+  const Texts journal = appliance::journal();
   EXPECT_NE(std::find(journal.begin(), journal.end(),
                       "grep \"\\\"\\<\\>\" /etc/ppp/pap-secrets | cut -f3 > /tmp/passwd"),
             journal.end());
   EXPECT_FALSE(appliance::fileExists("/tmp/passwd"));
-  const std::vector<std::string> log = logged();
-  const std::vector<std::string> loading = {"DialOutNumber =5550199\n", "Config DialInterval =30\n",
-                                            "Dial iRetries =3\n"};
+  const Texts log = logged();
   auto at = log.begin();
-  for (const std::string& line : loading) {
+  for (const char* line :
+       {"DialOutNumber =5550199\n", "Config DialInterval =30\n", "Dial iRetries =3\n"}) {
     at = std::find(at, log.end(), line);
     EXPECT_NE(at, log.end()) << line;
   }
@@ -83,7 +90,7 @@ TEST_F(DialOutGet, UserNameIsTheIndexOfTheDialOutUserAmongPrivilegedAccounts) {
     const char* what;
     std::function<void()> arrange;
     const char* value;
-    std::vector<std::string> qualifiers;
+    Texts qualifiers;
   };
   const auto nameLine = [](const char* user) {
     return [user] {
@@ -92,27 +99,17 @@ TEST_F(DialOutGet, UserNameIsTheIndexOfTheDialOutUserAmongPrivilegedAccounts) {
       appliance::writeFile(kDialOutOptions, options);
     };
   };
+  const auto noPrivilege = [] {
+    appliance::revokePrivilege(500);
+    appliance::revokePrivilege(501);
+  };
   const std::vector<Row> rows = {
-      {"second of two", nameLine("backup"), "1", {"ValueMap=0|1", "Values=dialer|backup"}},
-      {"user without the privilege",
-       nameLine("operator"),
-       "0",
-       {"ValueMap=0|1", "Values=dialer|backup"}},
-      {"privilege granted",
-       [] { appliance::grantPrivilege(502); },
-       "0",
-       {"ValueMap=0|1|2", "Values=dialer|backup|operator"}},
-      {"no privileged account",
-       [] {
-         appliance::revokePrivilege(500);
-         appliance::revokePrivilege(501);
-       },
-       "0",
-       {"ValueMap=", "Values="}},
-      {"account added",
-       [] { appliance::addAccount("503", "night"); },
-       "0",
-       {"ValueMap=0|1", "Values=dialer|backup"}},
+      {"second of two", nameLine("backup"), "1", kTwoUsers},
+      {"user without the privilege", nameLine("operator"), "0", kTwoUsers},
+      {"privilege granted", [] { appliance::grantPrivilege(502); }, "0",
+       offered("0|1|2", "dialer|backup|operator")},
+      {"no privileged account", noPrivilege, "0", offered("", "")},
+      {"account added", [] { appliance::addAccount("503", "night"); }, "0", kTwoUsers},
   };
   // Rows undo their changes instead of resetting the appliance, which would rewrite the
   // registry under the module's "ModemStatus" subscription.
@@ -137,9 +134,9 @@ TEST_F(DialOutGet, EachGetPutsTheLatestAccountListInFrontOfTheSettersList) {
   get();
   appliance::removeAccount("500");
   const CIMProperty user = get().getProperty("DialOutUserName");
-  EXPECT_EQ(UserNames, (std::vector<std::string>{"backup", "dialer", "backup"}));
-  EXPECT_EQ(qualifiersOf(user), (std::vector<std::string>{"ValueMap=0", "Values=backup"}));
-  const std::vector<std::string> log = logged();
+  EXPECT_EQ(UserNames, (Texts{"backup", "dialer", "backup"}));
+  EXPECT_EQ(qualifiersOf(user), offered("0", "backup"));
+  const Texts log = logged();
   EXPECT_EQ(std::count(log.begin(), log.end(), "Reading Zeph_Account"), 2);
   EXPECT_EQ(std::count(log.begin(), log.end(), "Zeph_DialOutAccountImpl::getDialOutUserName\n"), 2);
   EXPECT_NE(std::find(log.begin(), log.end(), "Out Value in get Number of Users is 1"), log.end());
@@ -148,35 +145,27 @@ TEST_F(DialOutGet, EachGetPutsTheLatestAccountListInFrontOfTheSettersList) {
 // The number carries the impact warning of the session found up by the last status reading.
 TEST_F(DialOutGet, NumberWarnsWhileADialSessionIsUp) {
   struct Row {
-    appliance::Direction direction;
-    bool dialIn;
-    bool dialOut;
+    appliance::Direction direction;  // also which session flag is up
     const char* key;
-    std::vector<std::string> warnings;
+    std::string warnedSession;  // none when the last reading was of the other endpoint
   };
   const std::vector<Row> rows = {
-      {appliance::Direction::DialOut,
-       false,
-       true,
-       "DialOutEndpoint",
-       {"ImpactWarning=Dial-Out Session is in Progress.Change will take effect for Next Dial-Out "
-        "Session"}},
-      {appliance::Direction::DialIn,
-       true,
-       false,
-       "DialInEndpoint",
-       {"ImpactWarning=Dial-In Session is in Progress.Change will take effect for Next Dial-In "
-        "Session"}},
-      {appliance::Direction::DialIn, true, false, "DialOutEndpoint", {}},
+      {appliance::Direction::DialOut, "DialOutEndpoint", "Dial-Out"},
+      {appliance::Direction::DialIn, "DialInEndpoint", "Dial-In"},
+      {appliance::Direction::DialIn, "DialOutEndpoint", ""},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.key);
     appliance::linkUp(row.direction, "ppp0", "10.64.0.2", "10.64.0.1");
-    ConnectionStatus = row.dialIn;
-    DialOutConnectionStatus = row.dialOut;
+    ConnectionStatus = row.direction == appliance::Direction::DialIn;
+    DialOutConnectionStatus = !ConnectionStatus;
     check_key = row.key;
     const CIMInstance instance = get();
-    EXPECT_EQ(qualifiersOf(instance.getProperty("DialOutNumber")), row.warnings);
+    const Texts warning = {"ImpactWarning=" + row.warnedSession +
+                           " Session is in Progress.Change will take effect for Next " +
+                           row.warnedSession + " Session"};
+    EXPECT_EQ(qualifiersOf(instance.getProperty("DialOutNumber")),
+              row.warnedSession.empty() ? Texts{} : warning);
     EXPECT_TRUE(qualifiersOf(instance.getProperty("DialRetries")).empty());
     appliance::linkDown("ppp0");
   }

@@ -23,97 +23,69 @@ Lines joined(Lines head, const Lines& tail) {
   head.insert(head.end(), tail.begin(), tail.end());
   return head;
 }
-
 CIMValue text(const std::string& value) {
   return CIMValue(String(value.c_str()));
 }
-
-CIMValue number(UInt16 value) {
-  return CIMValue(value);
-}
-
 bool hasLine(const std::string& file, const std::string& line) {
   const Lines lines = appliance::readLines(file);
   return std::find(lines.begin(), lines.end(), line) != lines.end();
 }
+// The script line `declare KEY="value"`, and the in-place edit that writes it.
+std::string declare(const std::string& key, const std::string& value) {
+  return "declare " + key + "=\"" + value + "\"";
+}
+std::string edit(const char* script, const std::string& key, const std::string& value) {
+  return "/bin/sed -i '/^declare " + key + "/ c " + declare(key, value) + "' " + script;
+}
 
 using DialOutSet = DialOutTest;
 
+// A changed number restarts the dial-out link; retries and interval only edit the script.
 TEST_F(DialOutSet, ValidValuesAreWrittenAndReadBack) {
   struct Row {
     const char* property;
-    CIMValue value;
-    const char* file;
-    std::string line;
-    Lines journal;
-    const char* readBack;
+    CIMValue value;  // also the value read back
+    const char* script;
+    const char* key;
+    Lines restart;
   };
   const std::string digits25 = "1234567890123456789012345";
-  const char* sedNumber =
-      "/bin/sed -i '/^declare TELEPHONE_NUMBER/ c declare TELEPHONE_NUMBER=\"%s\"' "
-      "/qv/etc/ppp/ppp_call_v2k";
-  const auto setNumber = [&](const std::string& n) {
-    std::string command = sedNumber;
-    return command.replace(command.find("%s"), 2, n);
-  };
-  const auto sedCallback = [](const char* key, const char* n) {
-    return std::string("/bin/sed -i '/^declare ") + key + "/ c declare " + key + "=\"" + n +
-           "\"' /qv/etc/ppp/callback_v2k";
-  };
   const std::vector<Row> rows = {
-      {"DialOutNumber", text(digits25), kCallScript,
-       "declare TELEPHONE_NUMBER=\"" + digits25 + "\"",
-       joined({setNumber(digits25)}, kRestartWithoutLink), "1234567890123456789012345"},
-      {"DialOutNumber", text(""), kCallScript, "declare TELEPHONE_NUMBER=\"\"",
-       joined({setNumber("")}, kRestartWithoutLink), ""},
-      {"DialRetries",
-       number(1),
-       kCallbackScript,
-       "declare CALLBACK_RETRY=\"1\"",
-       {sedCallback("CALLBACK_RETRY", "1")},
-       "1"},
-      {"DialRetries",
-       number(10),
-       kCallbackScript,
-       "declare CALLBACK_RETRY=\"10\"",
-       {sedCallback("CALLBACK_RETRY", "10")},
-       "10"},
-      {"DialInterval",
-       number(1),
-       kCallbackScript,
-       "declare CALLBACK_DELAY=\"1\"",
-       {sedCallback("CALLBACK_DELAY", "1")},
-       "1"},
-      {"DialInterval",
-       number(299),
-       kCallbackScript,
-       "declare CALLBACK_DELAY=\"299\"",
-       {sedCallback("CALLBACK_DELAY", "299")},
-       "299"},
-      {"DialOutUserName", text("1"), kDialOutOptions, "name backup",
-       joined({"/opt/etc/RasProviderScripts/setLine_dialout name backup"}, kRestartWithoutLink),
-       "1"},
+      {"DialOutNumber", text(digits25), kCallScript, "TELEPHONE_NUMBER", kRestartWithoutLink},
+      {"DialOutNumber", text(""), kCallScript, "TELEPHONE_NUMBER", kRestartWithoutLink},
+      {"DialRetries", CIMValue(UInt16(1)), kCallbackScript, "CALLBACK_RETRY", {}},
+      {"DialRetries", CIMValue(UInt16(10)), kCallbackScript, "CALLBACK_RETRY", {}},
+      {"DialInterval", CIMValue(UInt16(1)), kCallbackScript, "CALLBACK_DELAY", {}},
+      {"DialInterval", CIMValue(UInt16(299)), kCallbackScript, "CALLBACK_DELAY", {}},
   };
   for (const Row& row : rows) {
-    SCOPED_TRACE(std::string(row.property) + "=" + textOf(row.value));
-    get();  // the user list that the user-name setter indexes
+    const std::string value = textOf(row.value);
+    SCOPED_TRACE(std::string(row.property) + "=" + value);
     appliance::clearJournal();
     EXPECT_EQ(modify({{row.property, row.value}}), CimFailure{});
-    EXPECT_TRUE(hasLine(row.file, row.line)) << appliance::readFile(row.file);
-    EXPECT_EQ(appliance::journal(), row.journal);
+    EXPECT_TRUE(hasLine(row.script, declare(row.key, value))) << appliance::readFile(row.script);
+    EXPECT_EQ(appliance::journal(), joined({edit(row.script, row.key, value)}, row.restart));
     EXPECT_EQ(appliance::regGet("ModemStatus"), "ENABLED");
-    EXPECT_EQ(textOf(get().getPropertyValue(row.property)), row.readBack);
+    EXPECT_EQ(textOf(get().getPropertyValue(row.property)), value);
   }
 }
 
-// The secret is replaced in both secrets files under the user text the object caches: empty
+// The user name is an index into the offered users; the options name the user itself. The
+// secret is replaced in both secrets files under the user text the object caches: empty
 // until a user is chosen (the script then refuses the call), the chosen index after that.
-TEST_F(DialOutSet, PasswordGoesToBothSecretsFilesUnderTheCachedUserText) {
+TEST_F(DialOutSet, UserNameGoesToTheOptionsAndPasswordToBothSecretsFiles) {
   const std::map<std::string, std::string> before = files();
   EXPECT_EQ(modify({{"DialOutPassword", text("first")}}), CimFailure{});
   EXPECT_EQ(files(), before);
-  get();
+  get();  // the user list that the user-name setter indexes
+  appliance::clearJournal();
   EXPECT_EQ(modify({{"DialOutUserName", text("1")}}), CimFailure{});
+  EXPECT_TRUE(hasLine(kDialOutOptions, "name backup"));
+  EXPECT_EQ(
+      appliance::journal(),
+      joined({"/opt/etc/RasProviderScripts/setLine_dialout name backup"}, kRestartWithoutLink));
+  EXPECT_EQ(appliance::regGet("ModemStatus"), "ENABLED");
+  EXPECT_EQ(textOf(get().getPropertyValue("DialOutUserName")), "1");
   appliance::clearJournal();
   EXPECT_EQ(modify({{"DialOutPassword", text("s3cret")}}), CimFailure{});
   EXPECT_EQ(
@@ -131,15 +103,13 @@ TEST_F(DialOutSet, InvalidValuesAreRefusedWithTheirErrorAndChangeNothing) {
     CIMValue value;
     int code;
     int line;
-    const char* message;
+    std::string message;
   };
   const auto tooLong = [](const char* property) {
     return std::string("The length of ") + property +
            " must be <= 32\n#CFG_000_0004,MOF_Props_Zeph_DialOutSettingData_" + property + ",32#";
   };
-  const std::string longNumber = tooLong("DialOutNumber");
-  const std::string user = tooLong("DialOutUserName");
-  const std::string password = tooLong("DialOutPassword");
+  const auto number = [](UInt16 value) { return CIMValue(value); };
   const int failed = CIMException::FAILED;
   const int invalid = CIMException::INVALID_PARAMETER;
   const std::vector<Row> rows = {
@@ -147,7 +117,7 @@ TEST_F(DialOutSet, InvalidValuesAreRefusedWithTheirErrorAndChangeNothing) {
       {"DialOutNumber", text(std::string(25, '1') + "x"), failed, 388, "#RAS_MODEM_15#"},
       {"DialOutNumber", text("12a"), failed, 388, "#RAS_MODEM_16#"},
       {"DialOutNumber", text("555 0199; reboot"), failed, 388, "#RAS_MODEM_16#"},
-      {"DialOutNumber", text(std::string(33, '1')), invalid, 334, longNumber.c_str()},
+      {"DialOutNumber", text(std::string(33, '1')), invalid, 334, tooLong("DialOutNumber")},
       {"DialRetries", number(0), failed, 388, "#RAS_MODEM_2#"},
       {"DialRetries", number(11), failed, 388, "#RAS_MODEM_2#"},
       {"DialInterval", number(0), failed, 388, "#RAS_MODEM_3#"},
@@ -155,8 +125,8 @@ TEST_F(DialOutSet, InvalidValuesAreRefusedWithTheirErrorAndChangeNothing) {
       {"DialOutUserName", text("2"), invalid, 382,
        "The value of $prop.getName() is invalid.\n"
        "#CFG_000_0000,MOF_Props_Zeph_DialOutSettingData_$prop.getName()#"},
-      {"DialOutUserName", text(std::string(33, '0')), invalid, 334, user.c_str()},
-      {"DialOutPassword", text(std::string(33, 'p')), invalid, 334, password.c_str()},
+      {"DialOutUserName", text(std::string(33, '0')), invalid, 334, tooLong("DialOutUserName")},
+      {"DialOutPassword", text(std::string(33, 'p')), invalid, 334, tooLong("DialOutPassword")},
   };
   get();  // a list of two users: index 2 names none
   const std::map<std::string, std::string> before = files();
@@ -164,7 +134,7 @@ TEST_F(DialOutSet, InvalidValuesAreRefusedWithTheirErrorAndChangeNothing) {
     SCOPED_TRACE(std::string(row.property) + "=" + textOf(row.value));
     appliance::clearJournal();
     EXPECT_EQ(modify({{row.property, row.value}}),
-              (CimFailure{row.code, kDialOutSource, row.line, std::string(row.message)}));
+              (CimFailure{row.code, kDialOutSource, row.line, row.message}));
     EXPECT_EQ(files(), before);
     EXPECT_EQ(appliance::journal(), Lines{});
   }
@@ -177,21 +147,18 @@ TEST_F(DialOutSet, NumberChangeHangsUpOnlyADialOutLinkThatIsNotInACall) {
     const char* what;
     std::function<void()> arrange;
     Lines restart;
-    std::vector<std::string> linksUp;
   };
   const std::vector<Row> rows = {
       {"dial-out call up",
        [] { appliance::linkUp(appliance::Direction::DialOut, "ppp0", "10.64.0.2", "10.64.0.1"); },
-       {},
-       {"ppp0"}},
+       {}},
       {"dial-in call on ppp0, dial-out link on ppp1",
        [] {
          appliance::linkUp(appliance::Direction::DialIn, "ppp0", "10.0.0.1", "10.0.0.2");
          appliance::linkUp(appliance::Direction::DialOut, "ppp1", "10.64.0.2", "10.64.0.1", true);
        },
        {"/sbin/ifconfig | grep \"ppp\" | grep -v \"ppp0\" > /tmp/ifout ",
-        "/qv/etc/ppp/ppp_hup_v2k ppp1"},
-       {"ppp0"}},
+        "/qv/etc/ppp/ppp_hup_v2k ppp1"}},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.what);
@@ -199,13 +166,11 @@ TEST_F(DialOutSet, NumberChangeHangsUpOnlyADialOutLinkThatIsNotInACall) {
     appliance::clearJournal();
     EXPECT_EQ(modify({{"DialOutNumber", text("5550123")}}), CimFailure{});
     EXPECT_EQ(appliance::journal(),
-              joined({"/bin/sed -i '/^declare TELEPHONE_NUMBER/ c declare "
-                      "TELEPHONE_NUMBER=\"5550123\"' /qv/etc/ppp/ppp_call_v2k"},
-                     row.restart));
+              joined({edit(kCallScript, "TELEPHONE_NUMBER", "5550123")}, row.restart));
     const std::string links = appliance::readFile("/var/lib/appliance/links");
-    for (const std::string& up : row.linksUp) EXPECT_NE(links.find(up + " "), std::string::npos);
+    EXPECT_NE(links.find("ppp0 "), std::string::npos);
     EXPECT_EQ(links.find("ppp1"), std::string::npos);
-    for (const std::string& up : row.linksUp) appliance::linkDown(up);
+    appliance::linkDown("ppp0");
   }
 }
 
