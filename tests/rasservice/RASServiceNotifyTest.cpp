@@ -40,14 +40,14 @@ TEST_F(ServiceTest, OutsideChangesActUntilTheServiceIsDeleted) {
   EXPECT_THAT(
       appliance::journal(),
       ElementsAreArray(joined({resume(kDialIn, "mgetty_v2k"), resume(kDialOut, "ppp_add_v2k")})));
-  EXPECT_EQ(gateLine(kDialIn) + " " + gateLine(kDialOut), kOpen + " " + kOpen);
+  EXPECT_EQ(gates(), kBothOpen);
   EXPECT_EQ(modemStatusOf(get()), "true");
 
   provider_->deleteInstance(env_, kNs, servicePath());
   appliance::clearJournal();
   qvlreg("DISABLED");
   EXPECT_TRUE(appliance::journal().empty());
-  EXPECT_EQ(gateLine(kDialIn) + " " + gateLine(kDialOut), kOpen + " " + kOpen);
+  EXPECT_EQ(gates(), kBothOpen);
 }
 
 }  // namespace

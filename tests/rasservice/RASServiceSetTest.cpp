@@ -2,7 +2,6 @@
 // write, the dial-out resume, and a failed registry write.
 #include <cstdlib>
 
-#include "CimFailure.h"
 #include "ServiceFixture.h"
 
 using ::testing::ElementsAre;
@@ -22,23 +21,17 @@ const char* const kRecordingHangup =
 // What the change callback runs once the registry says "DISABLED" and no link is left.
 const Lines kCallbackDisables = {kListAll,      gateEdit(kClosed, kDialOut), kKillChat,
                                  hangup("ppp"), gateEdit(kClosed, kDialIn),  kKillMgetty};
-const Lines kStopsWithoutLink = {gateEdit(kClosed, kDialIn),  kKillMgetty, kListAll,
-                                 gateEdit(kClosed, kDialOut), kKillChat,   hangup("ppp")};
-
-void disabledFromOutside() {
-  appliance::regSet("ModemStatus", "DISABLED");
-  ASSERT_EQ(QvlNotifySync(), 0);
-}
+const Lines kResumeDialOut = resume(kDialOut, "ppp_add_v2k");
 
 // The stops come first and the registry is written last: both hang-ups still saw "ENABLED".
 TEST_F(ServiceTest, DisablingDuringADialInCallStopsEverythingBeforeTheRegistrySaysSo) {
   dialInUp();
-  dialOutUp();
+  appliance::linkUp(appliance::Direction::DialOut, "ppp1", "10.1.0.1", "10.1.0.2");
   appliance::writeFile(kHangupScript, kRecordingHangup);
   appliance::clearJournal();
   newLog();
 
-  setModemStatus(OpenWBEM::CIMValue(false));
+  EXPECT_EQ(setModemStatus(false), CimFailure{});
 
   const Lines bySet = {gateEdit(kClosed, kDialIn),  hangup("ppp0"), kKillMgetty,
                        gateEdit(kClosed, kDialOut), kKillChat,      hangup("ppp1")};
@@ -46,7 +39,7 @@ TEST_F(ServiceTest, DisablingDuringADialInCallStopsEverythingBeforeTheRegistrySa
   EXPECT_THAT(appliance::readLines(kHangupRecord),
               ElementsAre("ppp0 ENABLED", "ppp1 ENABLED", "ppp DISABLED"));
   EXPECT_EQ(appliance::regGet("ModemStatus"), "DISABLED");
-  EXPECT_EQ(gateLine(kDialIn) + " " + gateLine(kDialOut), kClosed + " " + kClosed);
+  EXPECT_EQ(gates(), kBothClosed);
   EXPECT_EQ(appliance::processState("mgetty"), "");
   const Lines log = newLog();
   EXPECT_EQ(log.front(), "DEBUG|Zeph_RASServiceImpl::setmodemStatus\n");
@@ -55,7 +48,7 @@ TEST_F(ServiceTest, DisablingDuringADialInCallStopsEverythingBeforeTheRegistrySa
             "DEBUG|" + hangup("ppp0"), "DEBUG|ProcessCmd1 is", "DEBUG|" + kKillMgetty,
             "DEBUG|Interface for DialOut  is", "DEBUG|ppp1", "DEBUG|ProcessCmd is",
             "DEBUG|" + hangup("ppp1"), "DEBUG|Calling Callback Function"}))
-      << listed(log);
+      << ::testing::PrintToString(log);
 }
 
 struct SetCase {
@@ -68,67 +61,63 @@ struct SetCase {
 };
 
 TEST_F(ServiceTest, SettingTheSwitchWritesTheRegistryAndBringsTheScriptsInLine) {
-  const std::string open = kOpen + " " + kOpen, closed = kClosed + " " + kClosed;
-  const Lines resumeOut = resume(kDialOut, "ppp_add_v2k");
+  const auto disabled = [] { changeFromOutside("DISABLED"); };
+  const auto disabledScripts = [] {
+    changeFromOutside("DISABLED");
+    for (const char* script : {kDialIn, kDialOut}) {
+      std::string text = appliance::readFile(script);
+      appliance::writeFile(script, text.replace(text.find("#ENABLED"), 8, "#DISABLED"));
+    }
+  };
+  const Lines resumeBoth = joined({resume(kDialIn, "mgetty_v2k"), kResumeDialOut});
+  const Lines closeBoth = {gateEdit(kClosed, kDialIn), gateEdit(kClosed, kDialOut)};
   const std::vector<SetCase> cases = {
-      {"true, already enabled", [] {}, true, resumeOut, {}, open},
-      {"true after disabled, #ENABLED scripts", disabledFromOutside, true, resumeOut,
-       joined({resume(kDialIn, "mgetty_v2k"), resumeOut}), open},
+      {"true, already enabled", [] {}, true, kResumeDialOut, {}, kBothOpen},
+      {"true after disabled, #ENABLED scripts", disabled, true, kResumeDialOut, resumeBoth,
+       kBothOpen},
       {"true after disabled, #DISABLED scripts",
-       [] {
-         disabledFromOutside();
-         for (const char* script : {kDialIn, kDialOut}) {
-           replaceInFile(script, "#ENABLED", "#DISABLED");
-         }
-       },
+       disabledScripts,
        true,
        {gateEdit(kClosed, kDialOut)},
-       {gateEdit(kClosed, kDialIn), gateEdit(kClosed, kDialOut)},
-       closed},
-      {"false, no link", [] {}, false, kStopsWithoutLink, kCallbackDisables, closed},
+       closeBoth,
+       kBothClosed},
+      {"false, no link", [] {}, false, kStopsWithoutLink, kCallbackDisables, kBothClosed},
   };
   for (const SetCase& c : cases) {
     pristine();
     c.setUp();
     appliance::clearJournal();
     appliance::clearCalls();
-    setModemStatus(OpenWBEM::CIMValue(c.value));
+    EXPECT_EQ(setModemStatus(c.value), CimFailure{}) << c.name;
     const Lines journal = appliance::journal();
-    EXPECT_TRUE(isInterleaving(journal, c.bySet, c.byCallback)) << c.name << listed(journal);
-    EXPECT_EQ(gateLine(kDialIn) + " " + gateLine(kDialOut), c.gates) << c.name;
+    EXPECT_TRUE(isInterleaving(journal, c.bySet, c.byCallback))
+        << c.name << ::testing::PrintToString(journal);
+    EXPECT_EQ(gates(), c.gates) << c.name;
     EXPECT_EQ(appliance::regGet("ModemStatus"), c.value ? "ENABLED" : "DISABLED") << c.name;
     const Lines calls = appliance::calls();
     const bool signalled = std::any_of(calls.begin(), calls.end(), [](const std::string& call) {
       return call.find("-s CONT") != std::string::npos;
     });
-    EXPECT_EQ(signalled, c.gates == open) << c.name;
+    EXPECT_EQ(signalled, c.gates == kBothOpen) << c.name;
   }
 }
 
-struct FailedWriteCase {
-  bool value;
-  Lines journal;
-};
-
 // A registry that cannot be written: status 100 reaches the client; what ran stays done.
 TEST_F(ServiceTest, AFailedRegistryWriteIsReportedAndNotUndone) {
-  const std::vector<FailedWriteCase> cases = {
-      {false, kStopsWithoutLink},
-      {true, resume(kDialOut, "ppp_add_v2k")},
-  };
-  for (const FailedWriteCase& c : cases) {
+  for (const auto& [value, journal] :
+       {std::pair{false, kStopsWithoutLink}, {true, kResumeDialOut}}) {
     pristine();
     newLog();
     setenv("QVL_REGISTRY", "/nonexistent/registry", 1);
-    const CimFailure failure = cimFailureOf([&] { setModemStatus(OpenWBEM::CIMValue(c.value)); });
+    const CimFailure failure = setModemStatus(value);
     unsetenv("QVL_REGISTRY");
     EXPECT_EQ(failure,
               (CimFailure{OpenWBEM::CIMException::FAILED, kSource, 388, "#RAS_MODEM_100#"}))
-        << c.value;
-    EXPECT_THAT(appliance::journal(), ElementsAreArray(c.journal)) << c.value;
-    EXPECT_EQ(appliance::regGet("ModemStatus"), "ENABLED") << c.value;
+        << value;
+    EXPECT_THAT(appliance::journal(), ElementsAreArray(journal)) << value;
+    EXPECT_EQ(appliance::regGet("ModemStatus"), "ENABLED") << value;
     const Lines log = newLog();
-    EXPECT_EQ(std::count(log.begin(), log.end(), "ERROR|Error in QVL Operation\n"), 1) << c.value;
+    EXPECT_EQ(std::count(log.begin(), log.end(), "ERROR|Error in QVL Operation\n"), 1) << value;
   }
 }
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "ApplianceTest.h"
+#include "CimFailure.h"
 #include "OW_CIMClass.hpp"
 #include "OW_CIMInstance.hpp"
 #include "OW_CIMObjectPath.hpp"
@@ -57,6 +58,7 @@ inline const std::string kOpen = "#$IF_ENABLE_CMD", kClosed = "$IF_ENABLE_CMD";
 inline const std::string kListAll = "/sbin/ifconfig | grep \"ppp\" > /tmp/ifout ";
 inline const std::string kKillChat = "killall -9 chat", kKillMgetty = "killall -9 mgetty";
 inline const std::string kSource = "../src/Zeph_RASServiceProvider";
+inline const std::string kBothOpen = kOpen + " " + kOpen, kBothClosed = kClosed + " " + kClosed;
 
 inline std::string hangup(const std::string& iface) {
   return "/qv/etc/ppp/ppp_hup_v2k " + iface;
@@ -68,6 +70,9 @@ inline std::string gateEdit(const std::string& to, const char* script) {
 inline Lines resume(const char* script, const std::string& process) {
   return {gateEdit(kOpen, script), "/usr/bin/killall -s CONT " + process, ""};
 }
+// What a disabling runs with no link up: dial-in stopped, then dial-out.
+inline const Lines kStopsWithoutLink = {gateEdit(kClosed, kDialIn),  kKillMgetty, kListAll,
+                                        gateEdit(kClosed, kDialOut), kKillChat,   hangup("ppp")};
 inline Lines joined(std::initializer_list<Lines> parts) {
   Lines all;
   for (const Lines& part : parts) all.insert(all.end(), part.begin(), part.end());
@@ -75,19 +80,12 @@ inline Lines joined(std::initializer_list<Lines> parts) {
 }
 // True when `all` is `first` and `second` merged, each in its own order: the change callback
 // runs on the platform's thread while a set may still be running its own commands.
-inline bool isInterleaving(const Lines& all, const Lines& first, const Lines& second) {
-  if (all.size() != first.size() + second.size()) return false;
-  std::vector<std::vector<bool>> reach(first.size() + 1, std::vector<bool>(second.size() + 1));
-  reach[0][0] = true;
-  for (std::size_t i = 0; i <= first.size(); ++i) {
-    for (std::size_t j = 0; j <= second.size(); ++j) {
-      if (i == 0 && j == 0) continue;
-      const std::string& line = all[i + j - 1];
-      reach[i][j] = (i > 0 && reach[i - 1][j] && first[i - 1] == line) ||
-                    (j > 0 && reach[i][j - 1] && second[j - 1] == line);
-    }
-  }
-  return reach[first.size()][second.size()];
+inline bool isInterleaving(const Lines& all, const Lines& first, const Lines& second,
+                           std::size_t i = 0, std::size_t j = 0) {
+  if (i + j == all.size()) return i == first.size() && j == second.size();
+  const std::string& line = all[i + j];
+  return (i < first.size() && first[i] == line && isInterleaving(all, first, second, i + 1, j)) ||
+         (j < second.size() && second[j] == line && isInterleaving(all, first, second, i, j + 1));
 }
 // True when `wanted` occurs in `all` in this order, other lines between them allowed.
 inline bool containsInOrder(const Lines& all, const Lines& wanted) {
@@ -99,11 +97,6 @@ inline bool containsInOrder(const Lines& all, const Lines& wanted) {
   }
   return true;
 }
-inline std::string listed(const Lines& lines) {
-  std::string text;
-  for (const std::string& line : lines) text += "\n  " + line;
-  return text;
-}
 // The gate line of a start script (kOpen or kClosed).
 inline std::string gateLine(const char* script) {
   for (const std::string& line : appliance::readLines(script)) {
@@ -111,15 +104,12 @@ inline std::string gateLine(const char* script) {
   }
   return "";
 }
-inline void replaceInFile(const char* path, const std::string& from, const std::string& to) {
-  std::string text = appliance::readFile(path);
-  appliance::writeFile(path, text.replace(text.find(from), from.size(), to));
+// Both gate lines: the dial-in script's, then the dial-out script's.
+inline std::string gates() {
+  return gateLine(kDialIn) + " " + gateLine(kDialOut);
 }
 inline void dialInUp() {
   appliance::linkUp(appliance::Direction::DialIn, "ppp0", "10.0.0.1", "10.0.0.2");
-}
-inline void dialOutUp() {
-  appliance::linkUp(appliance::Direction::DialOut, "ppp1", "10.1.0.1", "10.1.0.2");
 }
 
 }  // namespace service
@@ -149,35 +139,32 @@ class ServiceTest : public ApplianceTest {
 
   OpenWBEM::CIMObjectPath servicePath() const {
     OpenWBEM::CIMObjectPath path(OpenWBEM::CIMName("Zeph_RASService"), kNs);
-    path.setKeyValue("SystemCreationClassName",
-                     OpenWBEM::CIMValue(OpenWBEM::String("Zeph_System")));
-    path.setKeyValue("SystemName", OpenWBEM::CIMValue(OpenWBEM::String("Zeph")));
-    path.setKeyValue("CreationClassName", OpenWBEM::CIMValue(OpenWBEM::String("Zeph_RASService")));
-    path.setKeyValue("Name", OpenWBEM::CIMValue(OpenWBEM::String("RASService")));
+    for (const auto& [key, value] : {std::pair{"SystemCreationClassName", "Zeph_System"},
+                                     {"SystemName", "Zeph"},
+                                     {"CreationClassName", "Zeph_RASService"},
+                                     {"Name", "RASService"}}) {
+      path.setKeyValue(key, OpenWBEM::CIMValue(OpenWBEM::String(value)));
+    }
     return path;
   }
 
   OpenWBEM::CIMInstance get() {
     return provider_->getInstance(env_, kNs, servicePath(), OpenWBEM::WBEMFlags::E_NOT_LOCAL_ONLY,
                                   OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS,
-                                  OpenWBEM::WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0,
-                                  OpenWBEM::CIMClass(OpenWBEM::CIMNULL));
+                                  OpenWBEM::WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0, kNoClass);
   }
 
   // modifyInstance of modemStatus, then waits for the callback its registry write causes.
-  void setModemStatus(const OpenWBEM::CIMValue& value) {
+  CimFailure setModemStatus(bool value) {
     OpenWBEM::CIMInstance instance("Zeph_RASService");
     for (const OpenWBEM::CIMProperty& key : servicePath().getKeys()) instance.setProperty(key);
-    instance.setProperty("modemStatus", value);
-    try {
+    instance.setProperty("modemStatus", OpenWBEM::CIMValue(value));
+    const CimFailure failure = cimFailureOf([&] {
       provider_->modifyInstance(env_, kNs, instance, instance,
-                                OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS, 0,
-                                OpenWBEM::CIMClass(OpenWBEM::CIMNULL));
-    } catch (...) {
-      EXPECT_EQ(QvlNotifySync(), 0);
-      throw;
-    }
+                                OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS, 0, kNoClass);
+    });
     EXPECT_EQ(QvlNotifySync(), 0);
+    return failure;
   }
 
   // Log lines since the previous call.
@@ -189,6 +176,7 @@ class ServiceTest : public ApplianceTest {
   }
 
   const OpenWBEM::String kNs{"root/cimv2"};
+  const OpenWBEM::CIMClass kNoClass{OpenWBEM::CIMNULL};
   TestEnvRef initEnv_ = TestEnvironment::make();
   TestEnvRef env_ = TestEnvironment::make();
   OpenWBEM::IntrusiveReference<LockedLogger> log_{new LockedLogger()};
