@@ -61,7 +61,9 @@ TEST(Qvlreg, CommandsReadAndChangeTheStore) {
     argv.insert(argv.end(), row.args.begin(), row.args.end());
     const appliance::ToolResult result = appliance::runTool(argv);
     EXPECT_EQ(row.exitCode, result.status);
-    if (row.out != nullptr) EXPECT_EQ(row.out, result.output);
+    if (row.out != nullptr) {
+      EXPECT_EQ(row.out, result.output);
+    }
   }
 }
 
