@@ -37,24 +37,19 @@ class CallInTest : public ApplianceTest {
     initialize();
   }
   void TearDown() override {
-    ConnectionStatus = false;
-    DialOutConnectionStatus = false;
+    ConnectionStatus = DialOutConnectionStatus = false;
     check_key.clear();
   }
 
   // What a test changes on the pristine appliance before the module starts.
   virtual void beforeInitialising() {}
 
-  // Initialises the module as a CIMOM does, then forgets what other classes ran.
+  // Initialises the module as a CIMOM does, then forgets what other classes ran: waits until
+  // the module's registry subscriptions have acted on every change so far (the service switch
+  // follows "ModemStatus") and empties the journal.
   void initialize() {
     initEnv_ = TestEnvironment::make();
     provider_->initialize(initEnv_);
-    settle();
-  }
-
-  // Waits until the module's registry subscriptions have acted on every change so far (the
-  // service switch follows "ModemStatus"), then empties the journal.
-  void settle() {
     QvlNotifySync();
     appliance::clearJournal();
   }
@@ -78,9 +73,8 @@ class CallInTest : public ApplianceTest {
   // Every property of a get in MOF form (qualifiers, type, name, value), in instance order.
   std::vector<std::string> getAsMof() {
     std::vector<std::string> mof;
-    for (const OpenWBEM::CIMProperty& property : get().getProperties()) {
+    for (const OpenWBEM::CIMProperty& property : get().getProperties())
       mof.push_back(property.toMOF().c_str());
-    }
     return mof;
   }
 
