@@ -5,6 +5,8 @@ set -eu
 project=$(cd "$(dirname "$0")/../.." && pwd -P)
 run=$project/appliance/run
 work=$(mktemp -d)
+# From /, so that the launcher binds no working directory into the state it compares.
+cd /
 host_pid=""
 cleanup() {
   [ -z "$host_pid" ] || kill "$host_pid" 2>/dev/null || true

@@ -3,6 +3,7 @@
 #ifndef CALLIN_CALLINFIXTURE_H
 #define CALLIN_CALLINFIXTURE_H
 
+#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -113,6 +114,16 @@ struct RowName {
     return info.param.name;
   }
 };
+
+namespace {
+// Rows print as their name, so that CTest's test names and failure messages stay readable
+// (and do not change with the addresses a row holds). The rows live in this same unnamed
+// namespace of each test file, where argument-dependent lookup finds this.
+template <class Row, class = decltype(std::declval<const Row&>().name)>
+std::ostream& operator<<(std::ostream& os, const Row& row) {
+  return os << row.name;
+}
+}  // namespace
 
 inline OpenWBEM::CIMValue u16(unsigned short v) {
   return OpenWBEM::CIMValue(OpenWBEM::UInt16(v));
