@@ -167,12 +167,7 @@ CIMProperty& CIMProperty::setQualifier(const CIMQualifier& qual) {
   if (!qual) {
     return *this;
   }
-  size_t i = findNamed(m_pdata->qualifiers, qual.getName());
-  if (i == kNotFound) {
-    m_pdata->qualifiers.push_back(qual);
-  } else {
-    m_pdata->qualifiers[i] = qual;
-  }
+  putNamed(m_pdata->qualifiers, qual);
   return *this;
 }
 

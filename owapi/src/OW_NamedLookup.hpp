@@ -20,6 +20,17 @@ size_t findNamed(const Array<T>& items, const CIMName& name) {
   return kNotFound;
 }
 
+// Replaces the element of the same name, or appends `item` when there is none.
+template <typename T>
+void putNamed(Array<T>& items, const T& item) {
+  size_t i = findNamed(items, item.getName());
+  if (i == kNotFound) {
+    items.push_back(item);
+  } else {
+    items[i] = item;
+  }
+}
+
 }  // namespace OW_NAMESPACE
 
 #endif
