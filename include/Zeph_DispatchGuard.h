@@ -8,6 +8,7 @@
 #include "CFG_Exception.h"
 #include "OW_CIMException.hpp"
 #include "OW_ProviderEnvironmentIFC.hpp"
+#include "Zeph_RequestScope.h"
 
 namespace ras {
 
@@ -38,11 +39,13 @@ struct Operation {
                                    const Operation& op, const OpenWBEM::String& className);
 [[noreturn]] void failUnknownClass(const Operation& op);
 
-// Runs `call` inside the handler set. `call` returns true when a provider served the class;
-// if none did, the class is unknown, which is reported outside the handler set.
+// Runs `call` as one request inside the handler set. `call` returns true when a provider
+// served the class; if none did, the class is unknown, which is reported outside the
+// handler set.
 template <class Call>
 void guarded(const OpenWBEM::ProviderEnvironmentIFCRef& env, const Operation& op,
              const OpenWBEM::String& className, Call call) {
+  RequestScope request(env);
   bool served = false;
   try {
     served = call();

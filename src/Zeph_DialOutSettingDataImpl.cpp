@@ -240,10 +240,10 @@ int Zeph_DialOutSettingDataImpl::getDialOutUserName(std::string& value,
   std::string current;
   getConfigParameter(kDialOutOptions, kUserFormat, &current);
   value = "0";
+  UserNames.clear();
   for (int i = 0; i < count; ++i) {
-    const std::string name = vUserName[i].c_str();
-    UserNames.insert(UserNames.begin() + i, name);
-    if (name == current) value = std::to_string(i);
+    UserNames.emplace_back(vUserName[i].c_str());
+    if (UserNames.back() == current) value = std::to_string(i);
   }
   vUserName.clear();
   UserValueMap.clear();

@@ -28,7 +28,7 @@ static Zeph_SerialPortProvider Zeph_SerialPortProv;
 static Zeph_DialOutRoutesProvider Zeph_DialOutRoutesProv;
 
 OpenWBEM::IntrusiveReference<OpenWBEM::Logger> logger;
-OpenWBEM::IntrusiveReference<OpenWBEM::CIMOMHandleIFC> hdl;
+ras::CurrentCIMOMHandle hdl;
 
 namespace {
 
@@ -99,8 +99,8 @@ void cleanupModuleClasses() {
 Zeph_RASProvider::~Zeph_RASProvider() = default;
 
 void Zeph_RASProvider::initialize(const EnvRef& env) {
+  ras::RequestScope request(env);
   logger = env->getLogger(kLogComponent);
-  hdl = env->getCIMOMHandle();
   ras::initializeModuleClasses(env);
 }
 

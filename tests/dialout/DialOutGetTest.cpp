@@ -129,13 +129,16 @@ TEST_F(DialOutGet, UserNameIsTheIndexOfTheDialOutUserAmongPrivilegedAccounts) {
   }
 }
 
-TEST_F(DialOutGet, EachGetPutsTheLatestAccountListInFrontOfTheSettersList) {
-  UserNames.clear();
+// The setter indexes the list of the latest get only: an index that named an account in an
+// earlier, longer list names none after the list shrank.
+TEST_F(DialOutGet, EachGetReplacesTheSettersListWithTheLatestAccounts) {
   get();
   appliance::removeAccount("500");
   const CIMProperty user = get().getProperty("DialOutUserName");
-  EXPECT_EQ(UserNames, (Texts{"backup", "dialer", "backup"}));
+  EXPECT_EQ(UserNames, (Texts{"backup"}));
   EXPECT_EQ(qualifiersOf(user), offered("0", "backup"));
+  EXPECT_EQ(modify({{"DialOutUserName", CIMValue(String("1"))}}).code,
+            CIMException::INVALID_PARAMETER);
   const Texts log = logged();
   EXPECT_EQ(std::count(log.begin(), log.end(), "Reading Zeph_Account"), 2);
   EXPECT_EQ(std::count(log.begin(), log.end(), "Zeph_DialOutAccountImpl::getDialOutUserName\n"), 2);

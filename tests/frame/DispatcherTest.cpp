@@ -3,8 +3,10 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <functional>
 #include <stdexcept>
+#include <thread>
 
 #include "CFG_Exception.h"
 #include "CimFailure.h"
@@ -202,13 +204,44 @@ TEST_F(DispatcherTest, SecondInitializeReplacesGlobalsAndEveryManager) {
   const TestEnvRef second = TestEnvironment::make();
   dispatcher_->initialize(second);
   EXPECT_TRUE(logger == second->loggerRef());
-  EXPECT_TRUE(hdl == second->getCIMOMHandle());
+  EXPECT_FALSE(hdl);  // the CIMOM handle of initialize's call is not kept
   const std::vector<const void*> after = managers();
   ASSERT_EQ(after.size(), 10u);
   for (std::size_t i = 0; i < after.size(); ++i) {
     EXPECT_NE(after[i], before[i]) << kModuleClasses[i];
   }
   dispatcher_->cleanup();
+}
+
+// During a request `hdl` is that request's own CIMOM handle, and nothing outside one. Requests
+// from several threads at once are served one at a time, each seeing its own handle.
+TEST_F(DispatcherTest, HdlIsTheCurrentRequestsHandleAndRequestsRunOneAtATime) {
+  dispatcher_->initialize(TestEnvironment::make());
+  EXPECT_FALSE(hdl);
+  TrapSoftModemInstaller trap;
+  std::atomic<int> inside{0};
+  std::atomic<int> overlaps{0};
+  std::atomic<int> foreignHandles{0};
+  thread_local const OpenWBEM::CIMOMHandleIFC* expected = nullptr;
+  trap.arm([&] {
+    if (++inside != 1) ++overlaps;
+    if (!hdl || hdl.operator->() != expected) ++foreignHandles;
+    std::this_thread::yield();
+    --inside;
+  });
+  const auto client = [&] {
+    for (int i = 0; i < 200; ++i) {
+      const TestEnvRef env = TestEnvironment::make();
+      expected = env->getCIMOMHandle().getPtr();
+      request("getInstance", *dispatcher_, env, "Zeph_SoftModem");
+      if (hdl) ++foreignHandles;
+    }
+  };
+  std::vector<std::thread> clients;
+  for (int i = 0; i < 4; ++i) clients.emplace_back(client);
+  for (std::thread& c : clients) c.join();
+  EXPECT_EQ(overlaps, 0);
+  EXPECT_EQ(foreignHandles, 0);
 }
 
 }  // namespace
