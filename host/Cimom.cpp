@@ -1,6 +1,7 @@
 // Cimom.cpp: provider creation and the CIM operations around the provider calls.
 #include "Cimom.hpp"
 
+#include "CallEnvironment.hpp"
 #include "CimBuild.hpp"
 #include "OW_CIMClass.hpp"
 #include "OW_CIMException.hpp"
@@ -44,7 +45,7 @@ Cimom::Cimom(const ModuleLibrary& library, ProviderEnvironmentIFCRef env,
   probe->getAssociatorProvider();
   probe = 0;
   provider_ = library.createProvider();
-  provider_->initialize(env_);
+  provider_->initialize(call().env());
 }
 
 CppInstanceProviderIFC& Cimom::instances() const {
@@ -61,7 +62,7 @@ CIMInstanceArray Cimom::enumInstances(const String& ns, const String& className)
   CIMInstanceArray out;
   CIMInstanceArrayBuilder result(out);
   const CIMClass cls{CIMName(className)};
-  instances().enumInstances(env_, ns, className, result, E_NOT_LOCAL_ONLY, E_DEEP,
+  instances().enumInstances(call().env(), ns, className, result, E_NOT_LOCAL_ONLY, E_DEEP,
                             E_INCLUDE_QUALIFIERS, E_EXCLUDE_CLASS_ORIGIN, 0, cls, cls);
   return out;
 }
@@ -69,37 +70,37 @@ CIMInstanceArray Cimom::enumInstances(const String& ns, const String& className)
 CIMObjectPathArray Cimom::enumInstanceNames(const String& ns, const String& className) {
   CIMObjectPathArray out;
   CIMObjectPathArrayBuilder result(out);
-  instances().enumInstanceNames(env_, ns, className, result, CIMClass(CIMName(className)));
+  instances().enumInstanceNames(call().env(), ns, className, result, CIMClass(CIMName(className)));
   return out;
 }
 
 CIMInstance Cimom::getInstance(const String& ns, const Path& path) {
   const CIMInstance inst =
-      instances().getInstance(env_, ns, path, E_NOT_LOCAL_ONLY, E_INCLUDE_QUALIFIERS,
+      instances().getInstance(call().env(), ns, path, E_NOT_LOCAL_ONLY, E_INCLUDE_QUALIFIERS,
                               E_EXCLUDE_CLASS_ORIGIN, 0, CIMClass(CIMName(path.getClassName())));
   if (!inst) throw CIMException(kHostErrorFile, kHostErrorLine, CIMException::FAILED);
   return inst;
 }
 
 Cimom::Path Cimom::createInstance(const String& ns, const CIMInstance& instance) {
-  return instances().createInstance(env_, ns, instance);
+  return instances().createInstance(call().env(), ns, instance);
 }
 
 void Cimom::modifyInstance(const String& ns, const Path& path, const CIMInstance& modified,
-                           const StringArray& propertyList) {
+                           const StringArray* propertyList) {
   const CIMInstance previous = getInstance(ns, path);
-  instances().modifyInstance(env_, ns, modified, previous, E_INCLUDE_QUALIFIERS, &propertyList,
-                             CIMClass(CIMName(modified.getClassName())));
+  instances().modifyInstance(call().env(), ns, modified, previous, E_INCLUDE_QUALIFIERS,
+                             propertyList, CIMClass(CIMName(modified.getClassName())));
 }
 
 void Cimom::deleteInstance(const String& ns, const Path& path) {
-  instances().deleteInstance(env_, ns, path);
+  instances().deleteInstance(call().env(), ns, path);
 }
 
 CIMValue Cimom::invokeMethod(const String& ns, const Path& path, const String& method,
                              const CIMParamValueArray& in, CIMParamValueArray& out) {
   if (!path.getKeys().empty()) getInstance(ns, path);
-  return methods().invokeMethod(env_, ns, path, method, in, out);
+  return methods().invokeMethod(call().env(), ns, path, method, in, out);
 }
 
 std::vector<std::string> Cimom::associationClasses(const Path& path,
@@ -116,7 +117,7 @@ CIMInstanceArray Cimom::associators(const String& ns, const Path& path,
   CIMInstanceArray out;
   CIMInstanceArrayBuilder result(out);
   for (const std::string& assoc : associationClasses(path, f))
-    associations().associators(env_, result, ns, path, assoc.c_str(), f.resultClass.c_str(),
+    associations().associators(call().env(), result, ns, path, assoc.c_str(), f.resultClass.c_str(),
                                f.role.c_str(), f.resultRole.c_str(), E_INCLUDE_QUALIFIERS,
                                E_EXCLUDE_CLASS_ORIGIN, 0);
   return out;
@@ -127,8 +128,8 @@ CIMObjectPathArray Cimom::associatorNames(const String& ns, const Path& path,
   CIMObjectPathArray out;
   CIMObjectPathArrayBuilder result(out);
   for (const std::string& assoc : associationClasses(path, f))
-    associations().associatorNames(env_, result, ns, path, assoc.c_str(), f.resultClass.c_str(),
-                                   f.role.c_str(), f.resultRole.c_str());
+    associations().associatorNames(call().env(), result, ns, path, assoc.c_str(),
+                                   f.resultClass.c_str(), f.role.c_str(), f.resultRole.c_str());
   return out;
 }
 
@@ -136,7 +137,7 @@ CIMInstanceArray Cimom::references(const String& ns, const Path& path, const Ass
   CIMInstanceArray out;
   CIMInstanceArrayBuilder result(out);
   for (const std::string& assoc : associationClasses(path, f))
-    associations().references(env_, result, ns, path, assoc.c_str(), f.role.c_str(),
+    associations().references(call().env(), result, ns, path, assoc.c_str(), f.role.c_str(),
                               E_INCLUDE_QUALIFIERS, E_EXCLUDE_CLASS_ORIGIN, 0);
   return out;
 }
@@ -146,7 +147,7 @@ CIMObjectPathArray Cimom::referenceNames(const String& ns, const Path& path,
   CIMObjectPathArray out;
   CIMObjectPathArrayBuilder result(out);
   for (const std::string& assoc : associationClasses(path, f))
-    associations().referenceNames(env_, result, ns, path, assoc.c_str(), f.role.c_str());
+    associations().referenceNames(call().env(), result, ns, path, assoc.c_str(), f.role.c_str());
   return out;
 }
 

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "CallEnvironment.hpp"
 #include "ModuleLibrary.hpp"
 #include "MofSchema.hpp"
 #include "OW_Array.hpp"
@@ -45,8 +46,9 @@ class Cimom {
   OpenWBEM::CIMObjectPathArray enumInstanceNames(const String& ns, const String& className);
   OpenWBEM::CIMInstance getInstance(const String& ns, const Path& path);
   Path createInstance(const String& ns, const OpenWBEM::CIMInstance& instance);
+  // `propertyList` null: every property of `modified` (what wbemcli sends).
   void modifyInstance(const String& ns, const Path& path, const OpenWBEM::CIMInstance& modified,
-                      const OpenWBEM::StringArray& propertyList);
+                      const OpenWBEM::StringArray* propertyList);
   void deleteInstance(const String& ns, const Path& path);
   // `in` and `out` arrive arranged as a CIMOM arranges them (see buildMethodParams).
   OpenWBEM::CIMValue invokeMethod(const String& ns, const Path& path, const String& method,
@@ -66,6 +68,9 @@ class Cimom {
   OpenWBEM::CppMethodProviderIFC& methods() const;
   OpenWBEM::CppAssociatorProviderIFC& associations() const;
   std::vector<std::string> associationClasses(const Path& path, const AssociationFilter& f) const;
+  // One provider call's environment; used as a temporary, the call lasts until the end of
+  // the full expression that makes it, and its CIMOM handle dies with it.
+  ProviderCall call() const { return ProviderCall(env_); }
 
   OpenWBEM::ProviderEnvironmentIFCRef env_;
   std::shared_ptr<const MofSchema> schema_;

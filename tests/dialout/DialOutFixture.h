@@ -1,6 +1,7 @@
 // The dial-out settings instance as a client sees it: the module's dispatcher initialised
 // inside a fresh appliance with a CIMOM handle that serves the appliance's Zeph_Account
-// instances, and helpers to get the instance and to modify it.
+// instances, and helpers to get the instance and to modify it. Each call gets its own
+// environment whose CIMOM handle dies when the call returns, as in OpenWBEM.
 #ifndef DIALOUT_DIALOUTFIXTURE_H
 #define DIALOUT_DIALOUTFIXTURE_H
 
@@ -12,6 +13,7 @@
 
 #include "AccountHandle.hpp"
 #include "ApplianceTest.h"
+#include "CallEnvironment.hpp"
 #include "CimFailure.h"
 #include "MofSchema.hpp"
 #include "OW_CIMClass.hpp"
@@ -68,15 +70,17 @@ class DialOutTest : public ApplianceTest {
     ConnectionStatus = DialOutConnectionStatus = false;
     check_key.clear();
     env_ = AccountEnvironment::make();
-    provider_->initialize(env_);
+    rascim::withCall(env_, [&](const auto& call) { provider_->initialize(call); });
   }
 
   OpenWBEM::CIMInstance get() {
     OpenWBEM::CIMObjectPath path(OpenWBEM::CIMName(kDialOutClass), kNs);
     path.setKeyValue("InstanceID", OpenWBEM::CIMValue(OpenWBEM::String(kDialOutID)));
-    return provider_->getInstance(env_, kNs, path, OpenWBEM::WBEMFlags::E_NOT_LOCAL_ONLY,
-                                  OpenWBEM::WBEMFlags::E_INCLUDE_QUALIFIERS,
-                                  OpenWBEM::WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0, kNoClass);
+    return rascim::withCall(env_, [&](const auto& call) {
+      return provider_->getInstance(call, kNs, path, OpenWBEM::WBEMFlags::E_NOT_LOCAL_ONLY,
+                                    OpenWBEM::WBEMFlags::E_INCLUDE_QUALIFIERS,
+                                    OpenWBEM::WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0, kNoClass);
+    });
   }
 
   // Modifies the instance with the given properties in order; the CIM error, if any.
@@ -85,8 +89,10 @@ class DialOutTest : public ApplianceTest {
     instance.setProperty("InstanceID", OpenWBEM::CIMValue(OpenWBEM::String(kDialOutID)));
     for (const auto& [name, value] : changes) instance.setProperty(name.c_str(), value);
     return cimFailureOf([&] {
-      provider_->modifyInstance(env_, kNs, instance, instance,
-                                OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS, 0, kNoClass);
+      rascim::withCall(env_, [&](const auto& call) {
+        provider_->modifyInstance(call, kNs, instance, instance,
+                                  OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS, 0, kNoClass);
+      });
     });
   }
 
