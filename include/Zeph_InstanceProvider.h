@@ -138,17 +138,22 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
   }
 
  protected:
-  // Fills `instance` with every property whose getter succeeds, in table order.
+  // Fills `instance` with every property whose getter succeeds, in table order, and names
+  // it by its key properties, so that the CIMOM derives the same path as enumInstanceNames
+  // (the properties themselves carry only the getters' qualifiers).
   void toInstance(const String& ns, const W& object, CIMInstance& instance) const {
     Qualifiers qualifiers;
+    OpenWBEM::CIMPropertyArray keys;
     for (const Property<W>& row : Traits::properties()) {
       qualifiers.clear();
       OpenWBEM::CIMValue value(OpenWBEM::CIMNULL);
       if (readValue(row, object, ns, qualifiers, value) != kStatusOk) continue;
       OpenWBEM::CIMProperty property(row.name, value);
+      if (row.role == Role::Key) keys.push_back(property);
       property.setQualifiers(qualifiers);
       instance.setProperty(property);
     }
+    instance.setKeys(keys);
   }
 
   // Sets the key(s) of `path`; an unreadable key means the object cannot be named.
