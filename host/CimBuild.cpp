@@ -58,9 +58,10 @@ void refuseUndeclared(const MofClass& cls, const std::vector<Binding>& values) {
 }
 
 CIMProperty classProperty(const MofProperty& p, const Binding* given, const MofSchema& schema) {
-  CIMProperty prop =
-      given ? CIMProperty(CIMName(p.name.c_str()), typedValue(given->value, p.type, schema, p.name))
-            : CIMProperty(CIMName(p.name.c_str()), dataType(p.type));
+  const CIMValue value =
+      given ? propertyValue(given->value, p.type, schema, p.name) : CIMValue(CIMNULL);
+  CIMProperty prop = value ? CIMProperty(CIMName(p.name.c_str()), value)
+                           : CIMProperty(CIMName(p.name.c_str()), dataType(p.type));
   prop.setQualifiers(qualifiersOf(p));
   return prop;
 }

@@ -30,6 +30,11 @@ class TypingError : public std::runtime_error {
 // Types one value as `type`; refs are parsed as object paths. Throws TypingError.
 OpenWBEM::CIMValue typedValue(const TextValue& value, const MofType& type, const MofSchema& schema,
                               const std::string& name);
+// Types a property value of an instance as a CIMOM does with what a client sends: an empty
+// number is 0, an empty boolean null; text that does not convert fails with
+// CIM_ERR_INVALID_PARAMETER and the conversion's message ("Unable to convert ...").
+OpenWBEM::CIMValue propertyValue(const TextValue& value, const MofType& type,
+                                 const MofSchema& schema, const std::string& name);
 // A value of a class the schema does not know: a string or an array of strings.
 OpenWBEM::CIMValue untypedValue(const TextValue& value);
 

@@ -5,6 +5,7 @@
 #include "OW_Array.hpp"
 #include "OW_Bool.hpp"
 #include "OW_CIMDateTime.hpp"
+#include "OW_CIMException.hpp"
 #include "OW_CIMName.hpp"
 #include "OW_CIMObjectPath.hpp"
 #include "OW_CIMQualifier.hpp"
@@ -48,6 +49,11 @@ CIMValue convert(const TextValue& v, const MofType& type, const MofSchema& schem
   return numberValue(v, type.name);
 }
 
+bool isNumberType(const std::string& name) {
+  return name != "string" && name != "boolean" && name != "datetime" && name != "ref" &&
+         name != "char16";
+}
+
 std::string shapeName(bool isArray) {
   return isArray ? "an array" : "a single value";
 }
@@ -76,6 +82,24 @@ CIMValue typedValue(const TextValue& value, const MofType& type, const MofSchema
   } catch (const OpenWBEM::Exception& e) {
     throw TypingError("'" + (value.isArray ? std::string("{...}") : value.text) +
                       "' is not a valid " + typeName(type) + " value for " + name);
+  }
+}
+
+// A property value as a CIMOM receives it over CIM-XML: an empty number reads as 0 and an
+// empty boolean as no value; text that does not convert is the CIMOM's refusal, with the
+// conversion's own message.
+CIMValue propertyValue(const TextValue& value, const MofType& type, const MofSchema& schema,
+                       const std::string& name) {
+  if (value.isArray != type.isArray)
+    throw TypingError(name + " is " + typeName(type) + ": give " + shapeName(type.isArray));
+  TextValue given = value;
+  if (!value.isArray && value.text.empty() && isNumberType(type.name)) given.text = "0";
+  if (!value.isArray && value.text.empty() && type.name == "boolean") return CIMValue(CIMNULL);
+  try {
+    return convert(given, type, schema);
+  } catch (const StringConversionException& e) {
+    throw CIMException(kHostErrorFile, kHostErrorLine, CIMException::INVALID_PARAMETER,
+                       e.getMessage());
   }
 }
 

@@ -2,8 +2,12 @@
 // outcome.
 #include "Verbs.hpp"
 
+#include <algorithm>
+
 #include "CimBuild.hpp"
 #include "OW_CIMException.hpp"
+#include "OW_CIMInstance.hpp"
+#include "OW_CIMProperty.hpp"
 #include "PathSyntax.hpp"
 #include "SchemaCheck.hpp"
 
@@ -13,6 +17,8 @@ namespace rascim {
 namespace {
 
 using Words = std::vector<std::string>;
+
+const char kNamedOnly[] = "--named-only";
 using Handler = void (*)(VerbContext&, const Words&, Outcome&);
 
 struct Verb {
@@ -102,16 +108,30 @@ void runCi(VerbContext& c, const Words& a, Outcome& o) {
   o.shape = Outcome::kPath;
 }
 
+// As wbemcli does: read the instance, put the given values in, and send it whole (every
+// writable property reaches the provider). With --named-only, only the keys and the given
+// properties, with the list of their names.
 void runMi(VerbContext& c, const Words& a, Outcome&) {
-  expectCount(a, 2, ~size_t(0), "mi");
-  const Target t = target(c, a[0]);
-  const std::vector<Binding> changes = bindingsOf(a, 1);
-  std::vector<Binding> values = t.text.keys;
-  values.insert(values.end(), changes.begin(), changes.end());
-  StringArray propertyList;
-  for (const Binding& b : changes) propertyList.push_back(b.name.c_str());
-  c.cimom.modifyInstance(t.ns, t.path, buildInstance(t.text.className, values, c.schema, false),
-                         propertyList);
+  Words args = a;
+  const auto flag = std::find(args.begin(), args.end(), kNamedOnly);
+  const bool namedOnly = flag != args.end();
+  if (namedOnly) args.erase(flag);
+  expectCount(args, 2, ~size_t(0), "mi");
+  const Target t = target(c, args[0]);
+  const std::vector<Binding> changes = bindingsOf(args, 1);
+  if (namedOnly) {
+    std::vector<Binding> values = t.text.keys;
+    values.insert(values.end(), changes.begin(), changes.end());
+    StringArray propertyList;
+    for (const Binding& b : changes) propertyList.push_back(b.name.c_str());
+    c.cimom.modifyInstance(t.ns, t.path, buildInstance(t.text.className, values, c.schema, false),
+                           &propertyList);
+    return;
+  }
+  const CIMInstance given = buildInstance(t.text.className, changes, c.schema, false);
+  CIMInstance whole = c.cimom.getInstance(t.ns, t.path);
+  for (const CIMProperty& p : given.getProperties()) whole.setProperty(p);
+  c.cimom.modifyInstance(t.ns, t.path, whole, nullptr);
 }
 
 // "Method" or "Method.Param=value,..." followed by more "Param=value" words.
@@ -186,7 +206,10 @@ const Verb kVerbs[] = {
     {"ein", "CLASSPATH", "enumerate instance names", runEin},
     {"ei", "CLASSPATH", "enumerate instances", runEi},
     {"gi", "PATH", "get an instance", runGi},
-    {"mi", "PATH Name=value[,...] ...", "modify the named properties of an instance", runMi},
+    {"mi", "[--named-only] PATH Name=value[,...] ...",
+     "modify an instance: the whole instance read, with the given values (as wbemcli); "
+     "--named-only: only the given properties",
+     runMi},
     {"ci", "PATH [Name=value[,...] ...]", "create an instance (keys from PATH)", runCi},
     {"di", "PATH", "delete an instance", runDi},
     {"cm", "PATH Method[.Param=value,...] [Param=value ...]", "invoke a method", runCm},

@@ -5,6 +5,8 @@
 // asserts the answers of the provider frame (CIM_ERR_NOT_FOUND) instead.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "ApplianceTest.h"
 #include "RasCimRun.h"
 
@@ -149,7 +151,15 @@ TEST_F(RasCimTest, ErrorsCarryCodeFileLineAndExitStatus) {
        "\"code\":17,\"name\":\"CIM_ERR_METHOD_NOT_FOUND\","
        "\"message\":\"no method Reset in class Zeph_SerialPort\",\"file\":\"ras-cim\",\"line\":0"},
       {{"mi", kDialOutPpp, "Speed=1"}, 1, "\"code\":12,\"name\":\"CIM_ERR_NO_SUCH_PROPERTY\""},
-      {{"mi", kDialOutPpp, "MTU=abc"}, 2, "'abc' is not a valid uint16 value for MTU"},
+      {{"mi", kDialOutPpp, "MTU=abc"},
+       1,
+       "\"code\":4,\"name\":\"CIM_ERR_INVALID_PARAMETER\","
+       "\"message\":\"Unable to convert \\\"abc\\\" into UInt16\",\"file\":\"ras-cim\",\"line\":0"},
+      {{"mi", kDialOutSettings, "DialRetries=70000"},
+       1,
+       "\"message\":\"Unable to convert \\\"70000\\\" into UInt16\""},
+      {{"mi", kDialOutSettings, "DialRetries="}, 1, "\"message\":\"#RAS_MODEM_2#\""},
+      {{"mi", kDialOutPpp, "MTU={1}"}, 2, "MTU is uint16: give a single value"},
       {{"frobnicate"}, 2, "\"message\":\"unknown verb 'frobnicate' (see --help)\",\"usage\":true"},
       {{"--module", "/nonexistent/libZeph_RASProvider.so", "ein", "Zeph_SoftModem"},
        4,
@@ -192,6 +202,35 @@ TEST_F(RasCimTest, BatchKeepsTheModuleStateBetweenOperations) {
   EXPECT_TRUE(contains(lines[2], std::string(mask) + ".0\"")) << lines[2];
   EXPECT_TRUE(contains(fresh.out, std::string(mask) + ".255\"")) << fresh.out;
   EXPECT_EQ(r.status, 2) << "the status of the first failure";
+}
+
+// mi sends what wbemcli sends: the whole instance read, with the given values in it, so
+// every writable property's setter runs; --named-only sends only the given property.
+TEST_F(RasCimTest, ModifySendsTheWholeInstanceUnlessNamedOnly) {
+  const std::string retries =
+      "/bin/sed -i '/^declare CALLBACK_RETRY/ c declare CALLBACK_RETRY=\"4\"' "
+      "/qv/etc/ppp/callback_v2k";
+  const std::string number =
+      "/bin/sed -i '/^declare TELEPHONE_NUMBER/ c declare TELEPHONE_NUMBER=\"5550199\"' "
+      "/qv/etc/ppp/ppp_call_v2k";
+  struct Row {
+    std::vector<std::string> args;
+    bool wholeInstance;
+  };
+  const Row rows[] = {{{"mi", kDialOutSettings, "DialRetries=4"}, true},
+                      {{"mi", "--named-only", kDialOutSettings, "DialRetries=4"}, false}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.args[1]);
+    appliance::clearJournal();
+    const RasCimResult r = runRasCim(row.args);
+    EXPECT_EQ(r.status, 0) << r.out << r.err;
+    const std::vector<std::string> journal = appliance::journal();
+    const auto has = [&](const std::string& line) {
+      return std::find(journal.begin(), journal.end(), line) != journal.end();
+    };
+    EXPECT_TRUE(has(retries));
+    EXPECT_EQ(has(number), row.wholeInstance);
+  }
 }
 
 }  // namespace
