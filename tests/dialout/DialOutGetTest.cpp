@@ -58,7 +58,11 @@ TEST_F(DialOutGet, ShowsEveryPropertyInOrderWithItsValueAndQualifiers) {
       // Loaded with the user name cached at start, which is empty: no secrets line matches.
       {"DialOutPassword", "", {}},
   };
-  const CIMPropertyArray properties = get().getProperties();
+  const CIMInstance instance = get();
+  // Named by its key, as a CIMOM names it to clients; no property gains a Key qualifier.
+  EXPECT_EQ(CIMObjectPath("", instance).modelPath(),
+            String("Zeph_DialOutSettingData.InstanceID=\"Velmar:Zeph_DialOutSettingData\""));
+  const CIMPropertyArray properties = instance.getProperties();
   ASSERT_EQ(properties.size(), rows.size());
   for (std::size_t i = 0; i < rows.size(); ++i) {
     SCOPED_TRACE(rows[i].name);
