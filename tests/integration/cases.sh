@@ -1,0 +1,188 @@
+#!/bin/sh
+# cases.sh: the module inside a real OpenWBEM CIMOM, driven by wbemcli, inside the simulated
+# appliance. Every case checks what wbemcli prints and, for changes, the appliance's journal
+# and files. Prints one "ok"/"not ok" line per check and a count; exits 1 on any failure.
+# Run by run.sh, which starts the sandbox.
+set -u
+here=$(cd "$(dirname "$0")" && pwd)
+# shellcheck source=tests/integration/cimom.sh
+. "$here/cimom.sh"
+
+passed=0
+failed=0
+JOURNAL=/var/lib/appliance/journal
+
+# check WHAT EXPECTED ACTUAL
+check() {
+  if [ "$2" = "$3" ]; then
+    passed=$((passed + 1))
+    echo "ok - $1"
+  else
+    failed=$((failed + 1))
+    printf 'not ok - %s\n  expected: %s\n  actual:   %s\n' "$1" "$2" "$3"
+  fi
+}
+
+# The paths wbemcli prints: the CIMOM's host and port, then the namespace and the model path.
+HOST=127.0.0.1:$CIMOM_PORT/$CIMOM_NS
+CALLIN='Zeph_CallInSettingData.InstanceID="Velmar:Zeph_CallInSettingData"'
+DIALOUT='Zeph_DialOutSettingData.InstanceID="Velmar:Zeph_DialOutSettingData"'
+SERVICE_KEYS='SystemCreationClassName="Zeph_System",SystemName="Zeph",CreationClassName="Zeph_RASService",Name="RASService"'
+SERVICE="Zeph_RASService.$SERVICE_KEYS"
+CALLIN_VALUES='InstanceID="Velmar:Zeph_CallInSettingData",ElementName="Dial-In Configuration",LineToAnswer=1,RingsBeforeAnswer=2,AutoDisableTimer=10,AutoDisableFlag=false,DNNumber="5550142"'
+DIALOUT_VALUES='InstanceID="Velmar:Zeph_DialOutSettingData",ElementName="Dial-Out Settings",DialOutNumber="5550199",DialRetries=3,DialInterval=30,DialOutUserName="0",DialOutPassword=""'
+
+# The CIM error line wbemcli prints for a refused request (its exit status is 16).
+cim_error() {
+  wbem "$@" 2>&1 | sed -n 's/^\* wbemcli: Cim: //p'
+}
+
+declare_line() {
+  grep "^declare.* $1=" "$2"
+}
+
+journal_clear() {
+  : >"$JOURNAL"
+}
+
+journal() {
+  cat "$JOURNAL"
+}
+
+# Instance names: every implemented class lists its instances with their keys, and ei names
+# each instance by the same path.
+case_names() {
+  check "ein call-in" "$HOST:$CALLIN" "$(wbem ein Zeph_CallInSettingData)"
+  check "ein dial-out" "$HOST:$DIALOUT" "$(wbem ein Zeph_DialOutSettingData)"
+  check "ein RAS service" "$HOST:$SERVICE" "$(wbem ein Zeph_RASService)"
+  for class in Zeph_CallInSettingData Zeph_DialOutSettingData Zeph_RASService; do
+    check "ei $class named as ein" "$(wbem ein $class)" "$(wbem ei $class | cut -d' ' -f1)"
+  done
+  check "ei call-in values" "$HOST:$CALLIN $CALLIN_VALUES" "$(wbem ei Zeph_CallInSettingData)"
+}
+
+# Reads: values from the appliance's files and registry; the account list as qualifiers.
+case_reads() {
+  check "gi call-in" "$HOST:$CALLIN $CALLIN_VALUES" "$(wbem gi "$CALLIN")"
+  check "gi dial-out" "$HOST:$DIALOUT $DIALOUT_VALUES" "$(wbem gi "$DIALOUT")"
+  check "gi dial-out again" "$HOST:$DIALOUT $DIALOUT_VALUES" "$(wbem gi "$DIALOUT")"
+  check "gi RAS service" \
+    "$HOST:$SERVICE $SERVICE_KEYS,ElementName=\"\",modemStatus=true" \
+    "$(wbem gi "$SERVICE")"
+  xml=$(wbem gi -dx "$DIALOUT" 2>&1 | tr -d '\n')
+  check "dial-out users offered" "dialerbackup" \
+    "$(echo "$xml" | sed -n 's/.*QUALIFIER NAME="Values"[^>]*><VALUE.ARRAY>\(.*\)<\/VALUE.ARRAY>.*/\1/p' |
+      sed 's/<[^>]*>//g')"
+  check "unknown instance" "(6) CIM_ERR_NOT_FOUND: " \
+    "$(cim_error gi 'Zeph_CallInSettingData.InstanceID="nope"')"
+}
+
+# Changes: a valid value edits the file with the expected command line; refused values
+# (out of range, too long, wrongly typed) change nothing and report the module's or the
+# CIMOM's error; the next change after a refusal works.
+case_changes() {
+  journal_clear
+  wbem mi "$CALLIN" RingsBeforeAnswer=7
+  check "mi rings: file" 'declare -r NUMBER_OF_RINGS="7"' \
+    "$(declare_line NUMBER_OF_RINGS /qv/etc/ppp/mgetty_v2k)"
+  check "mi rings: journal" \
+    "$(printf '%s\n' "/bin/sed -i '/^declare -r NUMBER_OF_RINGS/ c declare -r NUMBER_OF_RINGS=\"7\"' /qv/etc/ppp/mgetty_v2k" 'killall -9 mgetty' 'init q')" \
+    "$(journal | grep -v '^grep ')"
+  check "mi rings: read back" "RingsBeforeAnswer=7" \
+    "$(wbem gi "$CALLIN" | tr ',' '\n' | grep RingsBeforeAnswer)"
+
+  before=$(cat /qv/etc/ppp/mgetty_v2k /qv/etc/ppp/ppp_call_v2k /qv/etc/ppp/callback_v2k)
+  check "mi above maximum" \
+    "(4) CIM_ERR_INVALID_PARAMETER: The value of RingsBeforeAnswer must be <= 20&#10;#CFG_000_0003,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,20#" \
+    "$(cim_error mi "$CALLIN" RingsBeforeAnswer=21)"
+  check "mi below minimum" \
+    "(4) CIM_ERR_INVALID_PARAMETER: The value of RingsBeforeAnswer must be >= 1&#10;#CFG_000_0002,MOF_Props_Zeph_CallInSettingData_RingsBeforeAnswer,1#" \
+    "$(cim_error mi "$CALLIN" RingsBeforeAnswer=0)"
+  check "mi too long" \
+    "(4) CIM_ERR_INVALID_PARAMETER: The length of DialOutNumber must be <= 32&#10;#CFG_000_0004,MOF_Props_Zeph_DialOutSettingData_DialOutNumber,32#" \
+    "$(cim_error mi "$DIALOUT" DialOutNumber=123456789012345678901234567890123)"
+  check "mi setter refusal" "(1) CIM_ERR_FAILED: #RAS_MODEM_16#" \
+    "$(cim_error mi "$DIALOUT" DialOutNumber=12a)"
+  check "mi retries out of range" "(1) CIM_ERR_FAILED: #RAS_MODEM_2#" \
+    "$(cim_error mi "$DIALOUT" DialRetries=11)"
+  check "mi wrongly typed" '(4) CIM_ERR_INVALID_PARAMETER: Unable to convert "abc" into UInt16' \
+    "$(cim_error mi "$CALLIN" RingsBeforeAnswer=abc)"
+  check "mi overflow" '(4) CIM_ERR_INVALID_PARAMETER: Unable to convert "70000" into UInt16' \
+    "$(cim_error mi "$CALLIN" RingsBeforeAnswer=70000)"
+  check "refusals change no file" "$before" \
+    "$(cat /qv/etc/ppp/mgetty_v2k /qv/etc/ppp/ppp_call_v2k /qv/etc/ppp/callback_v2k)"
+
+  wbem mi "$DIALOUT" DialRetries=4
+  check "mi after refusals" 'declare CALLBACK_RETRY="4"' \
+    "$(declare_line CALLBACK_RETRY /qv/etc/ppp/callback_v2k)"
+  wbem mi "$DIALOUT" DialOutNumber=5550123
+  check "mi number" 'declare TELEPHONE_NUMBER="5550123"' \
+    "$(declare_line TELEPHONE_NUMBER /qv/etc/ppp/ppp_call_v2k)"
+  wbem mi "$SERVICE" modemStatus=false
+  check "mi service off" "DISABLED" "$(appliance-ctl reg get ModemStatus)"
+  wbem mi "$SERVICE" modemStatus=true
+  check "mi service on" "ENABLED" "$(appliance-ctl reg get ModemStatus)"
+}
+
+# A restart (SIGHUP) unloads and reloads the module; it reads the changed files anew.
+case_restart() {
+  cimom_restart
+  check "alive after restart" "yes" "$(cimom_alive && echo yes)"
+  check "values after restart" "RingsBeforeAnswer=7" \
+    "$(wbem gi "$CALLIN" | tr ',' '\n' | grep RingsBeforeAnswer)"
+  check "dial-out after restart" "DialRetries=4" \
+    "$(wbem gi "$DIALOUT" | tr ',' '\n' | grep DialRetries)"
+}
+
+# One request of a mixed sequence: gi, ei or mi on one of the three classes.
+mixed_request() {
+  case $(($1 % 9)) in
+    0) wbem gi "$CALLIN" ;;
+    1) wbem ei Zeph_DialOutSettingData ;;
+    2) wbem mi "$SERVICE" modemStatus=true ;;
+    3) wbem gi "$DIALOUT" ;;
+    4) wbem ei Zeph_RASService ;;
+    5) wbem mi "$CALLIN" "RingsBeforeAnswer=$(($1 % 20 + 1))" ;;
+    6) wbem gi "$SERVICE" ;;
+    7) wbem ei Zeph_CallInSettingData ;;
+    8) wbem mi "$DIALOUT" "DialRetries=$(($1 % 10 + 1))" ;;
+  esac
+}
+
+# mixed_requests FIRST COUNT: prints the number of failed requests.
+mixed_requests() {
+  failures=0
+  i=$1
+  while [ "$i" -lt $(($1 + $2)) ]; do
+    mixed_request "$i" >/dev/null 2>&1 || failures=$((failures + 1))
+    i=$((i + 1))
+  done
+  echo "$failures"
+}
+
+case_load() {
+  check "300 requests in a row" "0" "$(mixed_requests 0 300)"
+  check "alive after 300 requests" "yes" "$(cimom_alive && echo yes)"
+  pids=
+  for client in 1 2 3 4 5 6 7 8; do
+    mixed_requests $((client * 1000)) 40 >"$CIMOM_DIR/client.$client" &
+    pids="$pids $!"
+  done
+  # shellcheck disable=SC2086
+  wait $pids
+  check "8 parallel clients, 320 requests" "0 0 0 0 0 0 0 0" \
+    "$(cat "$CIMOM_DIR"/client.* | tr '\n' ' ' | sed 's/ $//')"
+  check "alive after parallel clients" "yes" "$(cimom_alive && echo yes)"
+  check "dial-out readable after load" "$HOST:$DIALOUT" "$(wbem gi "$DIALOUT" | cut -d' ' -f1)"
+}
+
+mkdir -p "$CIMOM_DIR"
+cimom_start || exit 1
+case_names
+case_reads
+case_changes
+case_restart
+case_load
+cimom_stop
+echo "integration: $passed passed, $failed failed"
+[ "$failed" -eq 0 ]
