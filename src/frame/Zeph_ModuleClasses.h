@@ -12,6 +12,7 @@ struct ModuleClass {
   const char* name;
   OpenWBEM::CppInstanceProviderIFC* instances;
   OpenWBEM::CppMethodProviderIFC* methods;
+  OpenWBEM::CppAssociatorProviderIFC* associations;  // null unless the class is an association
 };
 
 // The providers of `className` (exact, case-sensitive name), or null if the module has none.

@@ -8,6 +8,9 @@
 #include "Zeph_CallInSettingDataInstanceManager.h"
 #include "Zeph_ClassModel.h"
 
+// The CIM class name.
+inline constexpr char Zeph_CallInSettingDataName[] = "Zeph_CallInSettingData";
+
 class Zeph_CallInSettingData
     : public ras::InstanceIdKeyed<Zeph_CallInSettingData, Zeph_CallInSettingDataInstanceManager> {
  public:

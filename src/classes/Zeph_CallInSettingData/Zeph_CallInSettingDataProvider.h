@@ -5,7 +5,6 @@
 
 #include "Zeph_CallInSettingData.h"
 #include "Zeph_CallInSettingDataImpl.h"
-#include "Zeph_ClassNames.h"
 #include "Zeph_InstanceProvider.h"
 
 struct Zeph_CallInSettingDataTraits

@@ -8,6 +8,9 @@
 #include "Zeph_ClassModel.h"
 #include "Zeph_DialOutRoutesInstanceManager.h"
 
+// The CIM class name.
+inline constexpr char Zeph_DialOutRoutesName[] = "Zeph_DialOutRoutes";
+
 class Zeph_DialOutRoutes
     : public ras::ClassModel<Zeph_DialOutRoutes, Zeph_DialOutRoutesInstanceManager, 2> {
  public:

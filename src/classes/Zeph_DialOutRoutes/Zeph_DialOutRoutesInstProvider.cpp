@@ -1,6 +1,9 @@
 // Property table of Zeph_DialOutRoutes: the properties in instance order, keys first in key order.
 #include "Zeph_DialOutRoutesInstProvider.h"
 
+#include "Zeph_DialOutSettingData.h"
+#include "Zeph_NextHopIPRoute.h"
+
 namespace {
 using X = Zeph_DialOutRoutes;
 using Row = ras::Rows<X>;

@@ -3,7 +3,6 @@
 #ifndef ZEPH_DIALOUTROUTESINSTPROVIDER_H
 #define ZEPH_DIALOUTROUTESINSTPROVIDER_H
 
-#include "Zeph_ClassNames.h"
 #include "Zeph_DialOutRoutes.h"
 #include "Zeph_InstanceProvider.h"
 

@@ -8,6 +8,9 @@
 #include "Zeph_ClassModel.h"
 #include "Zeph_DialOutSettingDataInstanceManager.h"
 
+// The CIM class name.
+inline constexpr char Zeph_DialOutSettingDataName[] = "Zeph_DialOutSettingData";
+
 class Zeph_DialOutSettingData
     : public ras::InstanceIdKeyed<Zeph_DialOutSettingData, Zeph_DialOutSettingDataInstanceManager> {
  public:

@@ -3,7 +3,6 @@
 #ifndef ZEPH_DIALOUTSETTINGDATAPROVIDER_H
 #define ZEPH_DIALOUTSETTINGDATAPROVIDER_H
 
-#include "Zeph_ClassNames.h"
 #include "Zeph_DialOutSettingData.h"
 #include "Zeph_DialOutSettingDataImpl.h"
 #include "Zeph_InstanceProvider.h"

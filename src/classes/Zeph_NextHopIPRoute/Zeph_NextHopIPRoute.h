@@ -8,6 +8,9 @@
 #include "Zeph_ClassModel.h"
 #include "Zeph_NextHopIPRouteInstanceManager.h"
 
+// The CIM class name.
+inline constexpr char Zeph_NextHopIPRouteName[] = "Zeph_NextHopIPRoute";
+
 class Zeph_NextHopIPRoute
     : public ras::InstanceIdKeyed<Zeph_NextHopIPRoute, Zeph_NextHopIPRouteInstanceManager> {
  public:

@@ -3,7 +3,6 @@
 #ifndef ZEPH_NEXTHOPIPROUTEPROVIDER_H
 #define ZEPH_NEXTHOPIPROUTEPROVIDER_H
 
-#include "Zeph_ClassNames.h"
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_NextHopIPRoute.h"
 

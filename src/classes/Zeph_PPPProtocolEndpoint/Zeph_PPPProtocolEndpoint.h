@@ -9,6 +9,9 @@
 #include "Zeph_ClassModel.h"
 #include "Zeph_PPPProtocolEndpointInstanceManager.h"
 
+// The CIM class name.
+inline constexpr char Zeph_PPPProtocolEndpointName[] = "Zeph_PPPProtocolEndpoint";
+
 class Zeph_PPPProtocolEndpoint
     : public ras::SystemElementKeyed<Zeph_PPPProtocolEndpoint,
                                      Zeph_PPPProtocolEndpointInstanceManager> {

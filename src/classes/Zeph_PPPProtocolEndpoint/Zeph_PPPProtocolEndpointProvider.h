@@ -3,7 +3,6 @@
 #ifndef ZEPH_PPPPROTOCOLENDPOINTPROVIDER_H
 #define ZEPH_PPPPROTOCOLENDPOINTPROVIDER_H
 
-#include "Zeph_ClassNames.h"
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_PPPProtocolEndpoint.h"
 

@@ -8,6 +8,9 @@
 #include "Zeph_ClassModel.h"
 #include "Zeph_RASIPProtocolEndpointInstanceManager.h"
 
+// The CIM class name.
+inline constexpr char Zeph_RASIPProtocolEndpointName[] = "Zeph_RASIPProtocolEndpoint";
+
 class Zeph_RASIPProtocolEndpoint
     : public ras::SystemElementKeyed<Zeph_RASIPProtocolEndpoint,
                                      Zeph_RASIPProtocolEndpointInstanceManager> {

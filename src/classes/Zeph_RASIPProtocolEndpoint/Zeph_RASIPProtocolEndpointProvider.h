@@ -3,7 +3,6 @@
 #ifndef ZEPH_RASIPPROTOCOLENDPOINTPROVIDER_H
 #define ZEPH_RASIPPROTOCOLENDPOINTPROVIDER_H
 
-#include "Zeph_ClassNames.h"
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_RASIPProtocolEndpoint.h"
 

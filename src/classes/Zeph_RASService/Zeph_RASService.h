@@ -8,6 +8,9 @@
 #include "Zeph_ClassModel.h"
 #include "Zeph_RASServiceInstanceManager.h"
 
+// The CIM class name.
+inline constexpr char Zeph_RASServiceName[] = "Zeph_RASService";
+
 class Zeph_RASService
     : public ras::SystemElementKeyed<Zeph_RASService, Zeph_RASServiceInstanceManager> {
  public:

@@ -2,9 +2,10 @@
 // stop and resume steps of the dial directions, and the change subscription.
 #include "Zeph_RASServiceImpl.h"
 
-#include "Zeph_ClassNames.h"
 #include "Zeph_PlatformAccess.h"
 #include "Zeph_PlatformLog.h"
+
+using namespace ras;
 
 namespace {
 

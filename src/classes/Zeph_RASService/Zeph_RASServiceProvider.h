@@ -3,7 +3,6 @@
 #ifndef ZEPH_RASSERVICEPROVIDER_H
 #define ZEPH_RASSERVICEPROVIDER_H
 
-#include "Zeph_ClassNames.h"
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_RASService.h"
 #include "Zeph_RASServiceImpl.h"

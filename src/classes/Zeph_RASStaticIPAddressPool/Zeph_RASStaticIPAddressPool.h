@@ -8,6 +8,9 @@
 #include "Zeph_ClassModel.h"
 #include "Zeph_RASStaticIPAddressPoolInstanceManager.h"
 
+// The CIM class name.
+inline constexpr char Zeph_RASStaticIPAddressPoolName[] = "Zeph_RASStaticIPAddressPool";
+
 class Zeph_RASStaticIPAddressPool
     : public ras::InstanceIdKeyed<Zeph_RASStaticIPAddressPool,
                                   Zeph_RASStaticIPAddressPoolInstanceManager> {

@@ -3,7 +3,6 @@
 #ifndef ZEPH_RASSTATICIPADDRESSPOOLPROVIDER_H
 #define ZEPH_RASSTATICIPADDRESSPOOLPROVIDER_H
 
-#include "Zeph_ClassNames.h"
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_RASStaticIPAddressPool.h"
 

@@ -8,6 +8,9 @@
 #include "Zeph_ClassModel.h"
 #include "Zeph_SerialPortInstanceManager.h"
 
+// The CIM class name.
+inline constexpr char Zeph_SerialPortName[] = "Zeph_SerialPort";
+
 class Zeph_SerialPort
     : public ras::SystemElementKeyed<Zeph_SerialPort, Zeph_SerialPortInstanceManager> {
  public:

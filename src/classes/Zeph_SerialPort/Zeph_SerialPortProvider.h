@@ -3,7 +3,6 @@
 #ifndef ZEPH_SERIALPORTPROVIDER_H
 #define ZEPH_SERIALPORTPROVIDER_H
 
-#include "Zeph_ClassNames.h"
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_SerialPort.h"
 

@@ -8,6 +8,9 @@
 #include "Zeph_ClassModel.h"
 #include "Zeph_SoftModemInstanceManager.h"
 
+// The CIM class name.
+inline constexpr char Zeph_SoftModemName[] = "Zeph_SoftModem";
+
 class Zeph_SoftModem
     : public ras::SystemElementKeyed<Zeph_SoftModem, Zeph_SoftModemInstanceManager> {
  public:

@@ -3,7 +3,6 @@
 #ifndef ZEPH_SOFTMODEMPROVIDER_H
 #define ZEPH_SOFTMODEMPROVIDER_H
 
-#include "Zeph_ClassNames.h"
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_SoftModem.h"
 
