@@ -1,13 +1,17 @@
-// Module-wide state: the CIMOM's logger kept by initialize, the current request's CIMOM
-// handle, and the session flags that the PPP connection-status reader writes and the
-// impact warnings read.
+// Module-wide state, every global the module keeps: the CIMOM's logger kept by initialize,
+// the current request's CIMOM handle, the session flags that the PPP connection-status reader
+// writes and the impact warnings read, the reader's file cache, the "ModemStatus"
+// subscription and the account lists of the dial-out settings.
 #ifndef ZEPH_MODULEGLOBALS_H
 #define ZEPH_MODULEGLOBALS_H
 
 #include <string>
+#include <vector>
 
 #include "OW_IntrusiveReference.hpp"
 #include "OW_Logger.hpp"
+#include "OW_String.hpp"
+#include "Zeph_ConfigReader.h"
 #include "Zeph_RequestScope.h"
 
 extern OpenWBEM::IntrusiveReference<OpenWBEM::Logger> logger;
@@ -20,5 +24,21 @@ extern bool ConnectionStatus;
 extern bool DialOutConnectionStatus;
 // Name of the PPP endpoint ("DialInEndpoint" or "DialOutEndpoint") read last.
 extern std::string check_key;
+
+// The configuration files kept open for the cached reads.
+extern ras::CachedConfigFile FileList[ras::kFileListSize];
+// Stream of the last file that IsOpen opened outside FileList.
+extern FILE* file_tmp;
+
+// Notification handle of the "ModemStatus" subscription; -1 while there is none.
+extern int handle;
+
+// The account list of the last user-name get: the user names found and their indices as
+// text (both cleared after each get), and the list that the user-name setter indexes,
+// replaced by each get (it is the latest list, never older entries behind it). Requests run
+// one at a time, so one request's get never sees another's half-built list.
+extern OpenWBEM::StringArray vUserName;
+extern OpenWBEM::StringArray UserValueMap;
+extern std::vector<std::string> UserNames;
 
 #endif

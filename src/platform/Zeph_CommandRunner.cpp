@@ -7,6 +7,8 @@
 
 #include "Zeph_PlatformLog.h"
 
+namespace ras {
+
 const char* const kCommandRefusedLog = "Command not run: a value is not safe for the shell\n";
 const char* const kSed = "/bin/sed";
 
@@ -131,3 +133,5 @@ int ShellCommand::run() const {
 int runCommand(const char* format, std::initializer_list<CommandArg> args) {
   return ShellCommand(format, args).run();
 }
+
+}  // namespace ras

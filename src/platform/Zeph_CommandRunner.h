@@ -6,6 +6,8 @@
 #include <initializer_list>
 #include <string>
 
+namespace ras {
+
 // One value for a %s or %d slot of a command format.
 class CommandArg {
  public:
@@ -61,5 +63,7 @@ extern const char* const kSed;
 
 // Longest command line the module runs (the original buffers hold 1024 bytes).
 constexpr std::size_t kMaxCommandLength = 1023;
+
+}  // namespace ras
 
 #endif  // ZEPH_COMMANDRUNNER_H

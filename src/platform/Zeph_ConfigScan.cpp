@@ -8,6 +8,8 @@
 
 #include "Zeph_PlatformLog.h"
 
+namespace ras {
+
 namespace {
 
 const char* const kLogCompared = "Compared";
@@ -173,3 +175,5 @@ int scanConfigLines(FILE* stream, const char* format, va_list args, bool exactTe
   }
   return result;
 }
+
+}  // namespace ras

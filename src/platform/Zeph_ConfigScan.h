@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <string>
 
+namespace ras {
+
 // Buffer sizes of the appliance's readers; they bound what a line, key or value can hold.
 constexpr std::size_t kLineSize = 1024;
 constexpr std::size_t kKeySize = 80;
@@ -32,5 +34,7 @@ std::string configKey(const char* format);
 // character), else for any matching line. The first matching line is scanned into the one
 // output in `args` (an int* for "%d", a std::string* for "%s", none otherwise).
 int scanConfigLines(FILE* stream, const char* format, va_list args, bool exactTest);
+
+}  // namespace ras
 
 #endif  // ZEPH_CONFIGSCAN_H

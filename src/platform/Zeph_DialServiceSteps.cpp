@@ -2,13 +2,11 @@
 // appliance's scripts and stand-in tools expect.
 #include "Zeph_DialServiceSteps.h"
 
-#include "Zeph_PlatformAccess.h"
+#include "Zeph_ApplianceFiles.h"
+#include "Zeph_ConfigReader.h"
 #include "Zeph_PlatformLog.h"
 
-const char* const kDialOutScript = "/qv/etc/ppp/ppp_add_v2k";
-const char* const kDialInScript = "/qv/etc/ppp/mgetty_v2k";
-const char* const kMarkerFile = "/qv/etc/ppp/ppp_active_if_file";
-
+namespace ras {
 namespace {
 
 const char* const kHangupScript = "/qv/etc/ppp/ppp_hup_v2k";
@@ -122,3 +120,5 @@ void logAndRun(const char* label, const ShellCommand& command) {
   platformLogDebug(command.text());
   command.run();
 }
+
+}  // namespace ras

@@ -7,9 +7,7 @@
 
 #include "Zeph_CommandRunner.h"
 
-extern const char* const kDialOutScript;  // "/qv/etc/ppp/ppp_add_v2k"
-extern const char* const kDialInScript;   // "/qv/etc/ppp/mgetty_v2k"
-extern const char* const kMarkerFile;     // "/qv/etc/ppp/ppp_active_if_file"
+namespace ras {
 
 // A direction's start script, the process name it runs under and its resume log line.
 struct DialDirection {
@@ -49,5 +47,7 @@ void reloadInit();
 
 // Logs `label` and the command line, then runs it.
 void logAndRun(const char* label, const ShellCommand& command);
+
+}  // namespace ras
 
 #endif  // ZEPH_DIALSERVICESTEPS_H

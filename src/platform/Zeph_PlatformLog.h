@@ -9,6 +9,8 @@
 #include "OW_String.hpp"
 #include "Zeph_ModuleGlobals.h"
 
+namespace ras {
+
 inline void platformLogDebug(const std::string& message) {
   if (logger) logger->logDebug(OpenWBEM::String(message.c_str()));
 }
@@ -16,5 +18,7 @@ inline void platformLogDebug(const std::string& message) {
 inline void platformLogError(const std::string& message) {
   if (logger) logger->logError(OpenWBEM::String(message.c_str()));
 }
+
+}  // namespace ras
 
 #endif  // ZEPH_PLATFORMLOG_H

@@ -5,6 +5,9 @@
 #include "TestSupport.h"
 #include "Zeph_CommandRunner.h"
 
+using ras::runCommand;
+using ras::ShellCommand;
+
 namespace {
 
 TEST(CommandRunnerTest, ValuesLandAsTheyAreAsOneQuotedWordOrNotAtAll) {

@@ -15,6 +15,8 @@ using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using Lines = std::vector<std::string>;
 using appliance::Direction;
+using ras::startModemStatusNotify;
+using ras::stopModemStatusNotify;
 
 namespace {
 

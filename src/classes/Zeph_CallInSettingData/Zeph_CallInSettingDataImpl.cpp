@@ -8,10 +8,11 @@
 #include <cstdlib>
 
 #include "Zeph_CommandRunner.h"
-#include "Zeph_DialServiceSteps.h"
 #include "Zeph_ImpactWarning.h"
 #include "Zeph_PlatformAccess.h"
 #include "Zeph_PlatformLog.h"
+
+using namespace ras;
 
 namespace {
 

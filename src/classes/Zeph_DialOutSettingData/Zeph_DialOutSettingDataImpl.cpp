@@ -19,6 +19,8 @@
 #include "Zeph_PlatformAccess.h"
 #include "Zeph_PlatformLog.h"
 
+using namespace ras;
+
 OpenWBEM::StringArray vUserName;
 OpenWBEM::StringArray UserValueMap;
 std::vector<std::string> UserNames;
@@ -28,9 +30,7 @@ namespace {
 const char* const kInstanceID = "Velmar:Zeph_DialOutSettingData";
 const char* const kElementName = "Dial-Out Settings";
 
-const char* const kCallScript = "/qv/etc/ppp/ppp_call_v2k";
 const char* const kCallbackScript = "/qv/etc/ppp/callback_v2k";
-const char* const kDialOutOptions = "/qv/etc/ppp/options_dialout";
 const char* const kPapSecrets = "/etc/ppp/pap-secrets";
 const char* const kChapSecrets = "/etc/ppp/chap-secrets";
 const char* const kPasswordFile = "/tmp/passwd";

@@ -1,0 +1,116 @@
+// Dial service process control: the restarts after a settings change, the stop and resume of
+// both directions on a "ModemStatus" change, and the subscription to that change.
+#include "Zeph_DialService.h"
+
+#include "QvlShared.h"
+#include "Zeph_ApplianceFiles.h"
+#include "Zeph_DialServiceSteps.h"
+#include "Zeph_ModuleGlobals.h"
+#include "Zeph_PlatformLog.h"
+#include "Zeph_Registry.h"
+
+using namespace ras;
+
+int handle = -1;
+
+namespace {
+
+const char* const kLogJobControl = "Restart_ppp_add_v2k:jobCntrl";
+const char* const kLogProcessCmd = "ProcessCmd is";
+const char* const kLogProcessCmd1 = "ProcessCmd1 is";
+const char* const kLogRestartInterface = "Name of DialOut in Restart  Interface.. ";
+const char* const kLogKillingMgetty = "Killing Mgetty";
+const char* const kLogCallback = "Calling Callback Function";
+const char* const kLogDialOutInterface = "Interface for DialOut  is";
+const char* const kLogDialInInterface = "Interface for DialIn  is";
+const char* const kLogNotifyStarted = "Successful in Notify";
+
+}  // namespace
+
+std::string ras::findDialOutInterface() {
+  return dialOutInterfaceFor(dialOutRecorded());
+}
+
+std::string ras::readActiveInterface() {
+  return interfaceInMarker();
+}
+
+void Restart_ppp_add_v2k() {
+  platformLogDebug(kLogJobControl);
+  platformLogDebug(gateState(kDialOutScript));
+  const int addo = dialOutRecorded();
+  if (addo == 1) {
+    // An established dial-out call is left alone.
+    interfaceInMarker();
+    return;
+  }
+  const std::string interface = dialOutInterfaceFor(addo);
+  if (addo == -1) {
+    killChat();
+  } else {
+    platformLogDebug(kLogRestartInterface);
+    platformLogDebug(interface);
+  }
+  logAndRun(kLogProcessCmd, hangupCommand(interface));
+}
+
+void RestartMgetty() {
+  gateState(kDialInScript);
+  const int din = dialInRecorded();
+  // A dial-in call in progress is never cut by a settings change.
+  if (din != -1 && din != 0) return;
+  logAndRun(kLogKillingMgetty, killMgettyCommand());
+  reloadInit();
+}
+
+void ras::stopDialOut() {
+  const std::string interface = findDialOutInterface();
+  platformLogDebug(kLogDialOutInterface);
+  platformLogDebug(interface);
+  closeGate(kDialOutScript);
+  if (interface.empty()) return;
+  killChat();
+  logAndRun(kLogProcessCmd, hangupCommand(interface));
+}
+
+void ras::stopDialIn() {
+  closeGate(kDialInScript);
+  const std::string interface = dialInRecorded() == 1 ? interfaceInMarker() : std::string();
+  platformLogDebug(kLogDialInInterface);
+  platformLogDebug(interface);
+  if (!interface.empty()) logAndRun(kLogProcessCmd, hangupCommand(interface));
+  logAndRun(kLogProcessCmd1, killMgettyCommand());
+}
+
+void ras::resumeDialOut() {
+  resumeDirection(kDialOutDirection);
+}
+
+void ras::resumeDialIn() {
+  resumeDirection(kDialInDirection);
+}
+
+void remove_ppp_link(unsigned long) {
+  platformLogDebug(kLogCallback);
+  std::string status;
+  if (!readModemRegistry(kRegModemStatus, status)) return;
+  if (status == kRegDisabled) {
+    stopDialOut();
+    stopDialIn();
+  }
+  if (status == kRegEnabled) {
+    resumeDialIn();
+    resumeDialOut();
+  }
+}
+
+int ras::startModemStatusNotify() {
+  const int result =
+      QvlNotifyRegChangeStart(kRegSection, kRegGroup, kRegModemStatus, remove_ppp_link, 0, &handle);
+  if (result == 0) platformLogDebug(kLogNotifyStarted);
+  return result;
+}
+
+void ras::stopModemStatusNotify() {
+  if (handle != -1) QvlNotifyRegChangeStop(handle);
+}
