@@ -11,6 +11,8 @@
 #include "Zeph_ImpactWarning.h"
 #include "Zeph_PlatformAccess.h"
 #include "Zeph_PlatformLog.h"
+#include "Zeph_ShellVariable.h"
+#include "Zeph_TextFormat.h"
 
 using namespace ras;
 
@@ -19,9 +21,8 @@ namespace {
 const char* const kInstanceID = "Velmar:Zeph_CallInSettingData";
 const char* const kElementName = "Dial-In Configuration";
 
-const char* const kRingsFormat = "declare -r NUMBER_OF_RINGS=\"%d\"";
-const char* const kCmdSetRings =
-    "%s -i '/^declare -r NUMBER_OF_RINGS/ c declare -r NUMBER_OF_RINGS=\"%d\"' %s";
+const ShellVariable kRings{kDialInScript, "declare -r NUMBER_OF_RINGS",
+                           ShellVariable::Kind::Number};
 
 const char* const kNoLine = "NONE";
 const char* const kNumberFormat = "%d";
@@ -61,18 +62,6 @@ const char* const kTraceGetFlag = "Zeph_CallInSettingDataImpl::getAutoDisableFla
 const char* const kTraceSetFlag = "Zeph_CallInSettingDataImpl::setAutoDisableFlag\n";
 const char* const kTraceGetDN = "Zeph_CallInSettingDataImpl::getDNNumber\n";
 
-std::string numberText(const char* format, int value) {
-  char text[kRegValueSize];
-  std::snprintf(text, sizeof text, format, value);
-  return text;
-}
-
-std::string textWithValue(const char* format, const std::string& value) {
-  char text[kRegValueSize * 2];
-  std::snprintf(text, sizeof text, format, value.c_str());
-  return text;
-}
-
 // Writes a registry value; a failure is logged with the call-in registry error text.
 bool writeCallInValue(const char* name, const std::string& value) {
   if (writeModemRegistry(name, value.c_str())) return true;
@@ -89,9 +78,9 @@ Zeph_CallInSettingDataImpl::Zeph_CallInSettingDataImpl(const std::string& instan
 
 void Zeph_CallInSettingDataImpl::Initialize_Parameters() {
   int rings = 0;
-  getConfigParameter(kDialInScript, kRingsFormat, &rings);
+  kRings.read(rings);
   ringsBeforeAnswer_ = static_cast<unsigned short>(rings);
-  platformLogDebug(numberText(kLogRings, rings));
+  platformLogDebug(formatText(kLogRings, rings));
   initializeLineToAnswer();
   initializeAutoDisableTimer();
   initializeAutoDisableFlag();
@@ -104,7 +93,7 @@ void Zeph_CallInSettingDataImpl::initializeLineToAnswer() {
     return;
   }
   lineToAnswer_ = static_cast<unsigned short>(std::atoi(text.c_str()));
-  platformLogDebug(numberText(kLogInitLine, lineToAnswer_));
+  platformLogDebug(formatText(kLogInitLine, lineToAnswer_));
 }
 
 void Zeph_CallInSettingDataImpl::initializeAutoDisableTimer() {
@@ -118,7 +107,7 @@ void Zeph_CallInSettingDataImpl::initializeAutoDisableTimer() {
   int timer = 0;
   std::sscanf(text.c_str(), kNumberFormat, &timer);
   autoDisableTimer_ = static_cast<unsigned short>(timer);
-  platformLogDebug(numberText(kLogInitTimer, timer));
+  platformLogDebug(formatText(kLogInitTimer, timer));
 }
 
 void Zeph_CallInSettingDataImpl::initializeAutoDisableFlag() {
@@ -146,17 +135,17 @@ int Zeph_CallInSettingDataImpl::getLineToAnswer(unsigned short& value, ras::Qual
   }
   value = static_cast<unsigned short>(std::atoi(text.c_str()));
   platformLogDebug(kLogFromRegistry);
-  platformLogDebug(numberText(kLogGetLine, value));
+  platformLogDebug(formatText(kLogGetLine, value));
   return ras::kStatusOk;
 }
 
 int Zeph_CallInSettingDataImpl::setLineToAnswer(unsigned short value) {
   platformLogDebug(kTraceSetLine);
-  const std::string text = value == 0 ? kNoLine : numberText(kNumberFormat, value);
+  const std::string text = value == 0 ? kNoLine : formatText(kNumberFormat, value);
   if (text.size() > kMaxLineTextLength) return kStatusLineTooLong;
   if (value != 0 && !IsLineNumberValid(value)) return kStatusLineInvalid;
   if (!writeCallInValue(kRegLineToAnswer, text)) return kStatusRegistryWrite;
-  platformLogDebug(numberText(kLogSetLine, value));
+  platformLogDebug(formatText(kLogSetLine, value));
   lineToAnswer_ = value;
   // Gives the modem time to take the new line before anything else is changed.
   sleep(kLineChangePauseSeconds);
@@ -174,7 +163,7 @@ int Zeph_CallInSettingDataImpl::getRingsBeforeAnswer(unsigned short& value,
 int Zeph_CallInSettingDataImpl::setRingsBeforeAnswer(unsigned short value) {
   platformLogDebug(kTraceSetRings);
   if (value < kMinRings || value > kMaxRings) return kStatusRingsOutOfRange;
-  runCommand(kCmdSetRings, {kSed, static_cast<int>(value), kDialInScript});
+  kRings.edit(static_cast<int>(value));
   ringsBeforeAnswer_ = value;
   RestartMgetty();
   return ras::kStatusOk;
@@ -189,9 +178,9 @@ int Zeph_CallInSettingDataImpl::getAutoDisableTimer(unsigned short& value, ras::
 int Zeph_CallInSettingDataImpl::setAutoDisableTimer(unsigned short value) {
   platformLogDebug(kTraceSetTimer);
   if (value > kMaxAutoDisableTimer) return kStatusTimerTooLong;
-  const std::string text = numberText(kNumberFormat, value);
+  const std::string text = formatText(kNumberFormat, value);
   if (!writeCallInValue(kRegAutoDisableTimer, text)) return kStatusRegistryWrite;
-  platformLogDebug(textWithValue(kLogSetTimer, text));
+  platformLogDebug(formatText(kLogSetTimer, text.c_str()));
   autoDisableTimer_ = value;
   return ras::kStatusOk;
 }
@@ -207,7 +196,7 @@ int Zeph_CallInSettingDataImpl::setAutoDisableFlag(bool value) {
   if (!writeCallInValue(kRegAutoDisableFlag, value ? kRegOn : kRegOff)) {
     return kStatusRegistryWrite;
   }
-  platformLogDebug(numberText(kLogSetFlag, value ? 1 : 0));
+  platformLogDebug(formatText(kLogSetFlag, value ? 1 : 0));
   autoDisableFlag_ = value;
   return ras::kStatusOk;
 }

@@ -18,6 +18,8 @@
 #include "Zeph_ModuleGlobals.h"
 #include "Zeph_PlatformAccess.h"
 #include "Zeph_PlatformLog.h"
+#include "Zeph_ShellVariable.h"
+#include "Zeph_TextFormat.h"
 
 using namespace ras;
 
@@ -38,18 +40,12 @@ const char* const kSetLineScript = "/opt/etc/RasProviderScripts/setLine";
 const char* const kDialOutSuffix = "_dialout";
 const char* const kAddPasswordScript = "/opt/etc/RasProviderScripts/addPassword";
 
-const char* const kNumberFormat = "declare TELEPHONE_NUMBER=\"%s";
-const char* const kDelayFormat = "declare CALLBACK_DELAY=\"%d\"";
-const char* const kRetryFormat = "declare CALLBACK_RETRY=\"%d\"";
+const ShellVariable kNumber{kCallScript, "declare TELEPHONE_NUMBER", ShellVariable::Kind::Text};
+const ShellVariable kDelay{kCallbackScript, "declare CALLBACK_DELAY", ShellVariable::Kind::Number};
+const ShellVariable kRetry{kCallbackScript, "declare CALLBACK_RETRY", ShellVariable::Kind::Number};
 const char* const kUserFormat = "name %s";
 const char* const kQuotedFormat = "\"%s";
 
-const char* const kCmdSetNumber =
-    "%s -i '/^declare TELEPHONE_NUMBER/ c declare TELEPHONE_NUMBER=\"%s\"' %s";
-const char* const kCmdSetRetries =
-    "%s -i '/^declare CALLBACK_RETRY/ c declare CALLBACK_RETRY=\"%d\"' %s";
-const char* const kCmdSetDelay =
-    "%s -i '/^declare CALLBACK_DELAY/ c declare CALLBACK_DELAY=\"%d\"' %s";
 const char* const kCmdReadPassword = "grep \"\\\"\\<%s\\>\" %s | cut -f3 > /tmp/passwd";
 const char* const kCmdSetUser = "%s name %s";
 const char* const kCmdAddPassword = "%s %s %s %s %s";
@@ -82,18 +78,6 @@ constexpr unsigned short kMinRetries = 1;
 constexpr unsigned short kMaxRetries = 10;
 constexpr unsigned short kMinInterval = 1;
 constexpr unsigned short kMaxInterval = 299;
-
-std::string withNumber(const char* format, int value) {
-  char text[128];
-  std::snprintf(text, sizeof text, format, value);
-  return text;
-}
-
-std::string withText(const char* format, const std::string& value) {
-  char text[1024];
-  std::snprintf(text, sizeof text, format, value.c_str());
-  return text;
-}
 
 // A value scanned with a format ending in "%s" keeps its closing quote; this removes it.
 void cutClosingQuote(std::string& value) {
@@ -159,17 +143,17 @@ Zeph_DialOutSettingDataImpl::Zeph_DialOutSettingDataImpl(const std::string& inst
 }
 
 void Zeph_DialOutSettingDataImpl::Initialize_Parameters() {
-  getConfigParameter(kCallScript, kNumberFormat, &dialOutNumber_);
+  kNumber.read(dialOutNumber_);
   cutClosingQuote(dialOutNumber_);
-  platformLogDebug(withText(kLogNumber, dialOutNumber_));
+  platformLogDebug(formatText(kLogNumber, dialOutNumber_.c_str()));
   int interval = 0;
-  getConfigParameter(kCallbackScript, kDelayFormat, &interval);
+  kDelay.read(interval);
   dialInterval_ = static_cast<unsigned short>(interval);
-  platformLogDebug(withNumber(kLogInterval, interval));
+  platformLogDebug(formatText(kLogInterval, interval));
   int retries = 0;
-  getConfigParameter(kCallbackScript, kRetryFormat, &retries);
+  kRetry.read(retries);
   dialRetries_ = static_cast<unsigned short>(retries);
-  platformLogDebug(withNumber(kLogRetries, retries));
+  platformLogDebug(formatText(kLogRetries, retries));
   initializePassword();
 }
 
@@ -197,7 +181,7 @@ int Zeph_DialOutSettingDataImpl::getDialOutNumber(std::string& value,
 int Zeph_DialOutSettingDataImpl::setDialOutNumber(std::string value) {
   const int status = checkNumber(value);
   if (status != ras::kStatusOk) return status;
-  runCommand(kCmdSetNumber, {kSed, value, kCallScript});
+  kNumber.edit(value);
   dialOutNumber_ = value;
   Restart_ppp_add_v2k();
   return ras::kStatusOk;
@@ -210,7 +194,7 @@ int Zeph_DialOutSettingDataImpl::getDialRetries(unsigned short& value, ras::Qual
 
 int Zeph_DialOutSettingDataImpl::setDialRetries(unsigned short value) {
   if (value < kMinRetries || value > kMaxRetries) return kStatusRetriesOutOfRange;
-  runCommand(kCmdSetRetries, {kSed, static_cast<int>(value), kCallbackScript});
+  kRetry.edit(static_cast<int>(value));
   dialRetries_ = value;
   return ras::kStatusOk;
 }
@@ -225,7 +209,7 @@ int Zeph_DialOutSettingDataImpl::setDialInterval(unsigned short value) {
   ras::Qualifiers unused;
   getDialInterval(current, unused);
   if (value < kMinInterval || value > kMaxInterval) return kStatusIntervalOutOfRange;
-  runCommand(kCmdSetDelay, {kSed, static_cast<int>(value), kCallbackScript});
+  kDelay.edit(static_cast<int>(value));
   dialInterval_ = value;
   return ras::kStatusOk;
 }
@@ -248,7 +232,7 @@ int Zeph_DialOutSettingDataImpl::getDialOutUserName(std::string& value,
   vUserName.clear();
   UserValueMap.clear();
   platformLogDebug(kTraceGetUser);
-  platformLogDebug(withNumber(kLogUserCount, count));
+  platformLogDebug(formatText(kLogUserCount, count));
   return ras::kStatusOk;
 }
 
@@ -259,7 +243,7 @@ int Zeph_DialOutSettingDataImpl::setDialOutUserName(std::string value) {
   if (index < 0) return ras::kStatusInvalidValue;
   const std::string script = std::string(kSetLineScript) + kDialOutSuffix;
   runCommand(kCmdSetUser, {script, UserNames[index]});
-  platformLogDebug(withText(kLogSelected, value));
+  platformLogDebug(formatText(kLogSelected, value.c_str()));
   userName_ = value;
   Restart_ppp_add_v2k();
   return ras::kStatusOk;
