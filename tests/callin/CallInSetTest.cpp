@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "CallInFixture.h"
+#include "ScopedEnv.h"
 
 namespace callin {
 namespace {
@@ -151,16 +152,17 @@ TEST_F(CallInTest, AFailedRegistryWriteIsStatus100) {
   const Properties rows = {
       {"LineToAnswer", u16(3)}, {"AutoDisableTimer", u16(5)}, {"AutoDisableFlag", flag(true)}};
   const std::string registry = appliance::readFile(kRegistry);
-  ASSERT_EQ(setenv("QVL_REGISTRY", "/nonexistent/registry", 1), 0);
-  for (const auto& [property, value] : rows) {
-    initEnv_->logged().clear();
-    EXPECT_EQ(modify({{property, value}}), failure(kFailed, "#RAS_MODEM_100#", kLineSetterStatus))
-        << property;
-    const Lines log = logged();
-    EXPECT_NE(std::find(log.begin(), log.end(), "ERROR|Error in QVL Operation\n"), log.end())
-        << property;
+  {
+    const appliance::ScopedEnv broken("QVL_REGISTRY", "/nonexistent/registry");
+    for (const auto& [property, value] : rows) {
+      initEnv_->logged().clear();
+      EXPECT_EQ(modify({{property, value}}), failure(kFailed, "#RAS_MODEM_100#", kLineSetterStatus))
+          << property;
+      const Lines log = logged();
+      EXPECT_NE(std::find(log.begin(), log.end(), "ERROR|Error in QVL Operation\n"), log.end())
+          << property;
+    }
   }
-  unsetenv("QVL_REGISTRY");
   EXPECT_EQ(appliance::readFile(kRegistry), registry);
   EXPECT_EQ(value("AutoDisableTimer"), "10");
   EXPECT_EQ(value("AutoDisableFlag"), "false");

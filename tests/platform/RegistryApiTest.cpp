@@ -83,7 +83,8 @@ TEST(RegistryApi, FailsWhenTheStoreCannotBeRead) {
   EXPECT_NE(0, QvlGetRegEntryString("SoftModem", "ModemCC", "ModemStatus", buffer, 60));
   EXPECT_NE(0, QvlSetRegEntryString("SoftModem", "ModemCC", "ModemStatus", "ENABLED"));
   EXPECT_STREQ(kUntouched, buffer);
-  ::setenv("QVL_REGISTRY", (registry.dir() / "no-such-dir" / "registry").c_str(), 1);
+  const appliance::ScopedEnv missing("QVL_REGISTRY",
+                                     (registry.dir() / "no-such-dir" / "registry").string());
   EXPECT_NE(0, QvlSetRegEntryString("SoftModem", "ModemCC", "ModemStatus", "ENABLED"));
 }
 

@@ -8,8 +8,11 @@
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
 #include <string>
+
+#include "ScopedEnv.h"
 
 namespace qvltest {
 
@@ -19,10 +22,10 @@ class TempRegistry {
     std::string pattern = (std::filesystem::temp_directory_path() / "qvl-test-XXXXXX").string();
     if (::mkdtemp(pattern.data()) == nullptr) ADD_FAILURE() << "mkdtemp failed";
     dir_ = pattern;
-    ::setenv("QVL_REGISTRY", path().c_str(), 1);
+    env_.emplace("QVL_REGISTRY", path());
   }
   ~TempRegistry() {
-    ::unsetenv("QVL_REGISTRY");
+    env_.reset();
     std::error_code ignored;
     std::filesystem::remove_all(dir_, ignored);
   }
@@ -37,6 +40,7 @@ class TempRegistry {
 
  private:
   std::filesystem::path dir_;
+  std::optional<appliance::ScopedEnv> env_;
 };
 
 // The appliance's usual content, as used by several tests.

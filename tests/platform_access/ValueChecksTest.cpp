@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "QvlShared.h"
+#include "ScopedEnv.h"
 #include "TestSupport.h"
 #include "Zeph_PlatformAccess.h"
 
@@ -66,7 +67,7 @@ TEST_F(ValueChecksTest, MaskMustBeOnesThenZeros) {
 }
 
 TEST_F(ValueChecksTest, LineNumberRangeComesFromTheRegistryOrFallsBack) {
-  setenv("QVL_REGISTRY", path("registry").c_str(), 1);
+  const appliance::ScopedEnv registry("QVL_REGISTRY", path("registry"));
   const std::string outside = "DEBUG|Not Valid Line Number",
                     fallback = "DEBUG|Condition is True for 0";
   const struct {
@@ -96,7 +97,6 @@ TEST_F(ValueChecksTest, LineNumberRangeComesFromTheRegistryOrFallsBack) {
     EXPECT_EQ(IsLineNumberValid(row.line), row.log.empty() ? 1 : 0) << row.line;
     EXPECT_THAT(log_.newLines(), ElementsAreArray(row.log)) << row.line;
   }
-  unsetenv("QVL_REGISTRY");
 }
 
 TEST_F(ValueChecksTest, SecondsBecomeMinutesAndSecondsOfADatetime) {

@@ -2,6 +2,7 @@
 // write, the dial-out resume, and a failed registry write.
 #include <cstdlib>
 
+#include "ScopedEnv.h"
 #include "ServiceFixture.h"
 
 using ::testing::ElementsAre;
@@ -108,9 +109,10 @@ TEST_F(ServiceTest, AFailedRegistryWriteIsReportedAndNotUndone) {
        {std::pair{false, kStopsWithoutLink}, {true, kResumeDialOut}}) {
     pristine();
     newLog();
-    setenv("QVL_REGISTRY", "/nonexistent/registry", 1);
-    const CimFailure failure = setModemStatus(value);
-    unsetenv("QVL_REGISTRY");
+    const CimFailure failure = [&] {
+      const appliance::ScopedEnv broken("QVL_REGISTRY", "/nonexistent/registry");
+      return setModemStatus(value);
+    }();
     EXPECT_EQ(failure,
               (CimFailure{OpenWBEM::CIMException::FAILED, kSource, 388, "#RAS_MODEM_100#"}))
         << value;
