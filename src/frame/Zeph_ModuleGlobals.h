@@ -11,7 +11,7 @@
 #include "OW_IntrusiveReference.hpp"
 #include "OW_Logger.hpp"
 #include "OW_String.hpp"
-#include "Zeph_ConfigReader.h"
+#include "Zeph_CachedConfigFile.h"
 #include "Zeph_RequestScope.h"
 
 extern OpenWBEM::IntrusiveReference<OpenWBEM::Logger> logger;

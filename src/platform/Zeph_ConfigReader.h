@@ -6,19 +6,6 @@
 #include <cstdio>
 #include <string>
 
-namespace ras {
-
-// One configuration file kept open for the cached reads.
-struct CachedConfigFile {
-  const char* path;
-  int count;  // uses left before CloseFile closes the stream
-  FILE* stream;
-};
-
-constexpr int kFileListSize = 8;
-
-}  // namespace ras
-
 // Scans `path` for lines that begin with the text of `format` before its first "%". Each such
 // line is scanned with `format` into one output: an int* when `format` contains "%d", else a
 // std::string* when it contains "%s", none otherwise. Returns -1 when the file cannot be
