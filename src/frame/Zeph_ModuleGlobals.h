@@ -25,6 +25,10 @@ extern bool DialOutConnectionStatus;
 // Name of the PPP endpoint ("DialInEndpoint" or "DialOutEndpoint") read last.
 extern std::string check_key;
 
+// Results of the last ConnectLink and DisconnectLink of a PPP endpoint.
+extern int ConnectLinkReturn;
+extern int DisconnectLinkReturn;
+
 // The configuration files kept open for the cached reads.
 extern ras::CachedConfigFile FileList[ras::kFileListSize];
 // Stream of the last file that IsOpen opened outside FileList.

@@ -68,6 +68,10 @@ class Zeph_PPPProtocolEndpoint
     return ras::kStatusNotProvided;
   }
   virtual int setmaxTerminateReq(unsigned short) { return ras::kStatusNotWritable; }
+
+  // The class's methods; their result is the method's return value.
+  virtual int ConnectLink() { return ras::kStatusNotProvided; }
+  virtual int DisconnectLink() { return ras::kStatusNotProvided; }
 };
 
 #endif

@@ -1,10 +1,13 @@
-// Property table of Zeph_PPPProtocolEndpoint: the properties in instance order, keys first in key
-// order.
+// Property table of Zeph_PPPProtocolEndpoint (the properties in instance order, keys first in key
+// order) and its two methods.
 #include "Zeph_PPPProtocolEndpointProvider.h"
 
 namespace {
 using X = Zeph_PPPProtocolEndpoint;
 using Row = ras::Rows<X>;
+
+const char* const kConnectLink = "ConnectLink";
+const char* const kDisconnectLink = "DisconnectLink";
 }  // namespace
 
 const ras::PropertyTable<X>& Zeph_PPPProtocolEndpointTraits::properties() {
@@ -37,3 +40,14 @@ const ras::PropertyTable<X>& Zeph_PPPProtocolEndpointTraits::properties() {
 }
 
 template class ras::InstanceProvider<Zeph_PPPProtocolEndpointTraits>;
+
+OpenWBEM::CIMValue Zeph_PPPProtocolEndpointProvider::invokeMethod(
+    const EnvRef& env, const String& ns, const CIMObjectPath& path, const String& methodName,
+    const OpenWBEM::CIMParamValueArray& in, OpenWBEM::CIMParamValueArray& out) {
+  int (X::*method)() = nullptr;
+  if (methodName.equals(kConnectLink)) method = &X::ConnectLink;
+  if (methodName.equals(kDisconnectLink)) method = &X::DisconnectLink;
+  if (method == nullptr) return InstanceProvider::invokeMethod(env, ns, path, methodName, in, out);
+  const int result = (lookup(path)->*method)();
+  return OpenWBEM::CIMValue(OpenWBEM::UInt32(result));
+}

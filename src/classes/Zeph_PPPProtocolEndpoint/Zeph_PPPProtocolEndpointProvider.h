@@ -5,9 +5,11 @@
 
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_PPPProtocolEndpoint.h"
+#include "Zeph_PPPProtocolEndpointImpl.h"
 
 struct Zeph_PPPProtocolEndpointTraits
     : ras::ClassTraits<Zeph_PPPProtocolEndpoint, Zeph_PPPProtocolEndpointInstanceManager> {
+  using ImplManager = Zeph_PPPProtocolEndpointImplInstanceManager;
   static constexpr const char* kClass = Zeph_PPPProtocolEndpointName;
   static constexpr const char* kSource = "../src/Zeph_PPPProtocolEndpointProvider";
   static constexpr auto kCreate = &Manager::createZeph_PPPProtocolEndpoint;
@@ -21,6 +23,12 @@ class Zeph_PPPProtocolEndpointProvider
     : public ras::InstanceProvider<Zeph_PPPProtocolEndpointTraits> {
  public:
   using InstanceProvider::modifyInstance;
+
+  // ConnectLink and DisconnectLink of the endpoint the path names; any other method is
+  // refused as the template refuses it.
+  OpenWBEM::CIMValue invokeMethod(const EnvRef& env, const String& ns, const CIMObjectPath& path,
+                                  const String& methodName, const OpenWBEM::CIMParamValueArray& in,
+                                  OpenWBEM::CIMParamValueArray& out) override;
 
   void Zeph_PPPProtocolEndpointToCIMInstance(const OpenWBEM::String& ns,
                                              const Zeph_PPPProtocolEndpoint& object,
