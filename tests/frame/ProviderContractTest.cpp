@@ -138,13 +138,14 @@ TYPED_TEST(ProviderContract, BareWrapperShowsItsKeysAndIsFoundByItsPath) {
   }
   EXPECT_EQ(instance.getProperties().size(), keys);
   EXPECT_EQ(keys, W::kKeyCount);
-  // Without an implementation the object can be found but not deleted, and has no methods.
+  // Without an implementation the object can be found but not deleted, and a method that no
+  // class has is not found.
   EXPECT_EQ(cimFailureOf([&] { this->provider_.deleteInstance(this->env_, kNs, paths[0]); }),
             (CimFailure{CIMException::NOT_SUPPORTED, TypeParam::kSource, 253,
                         "The system cannot delete the instance specified.\n#CFG_000_0006#"}));
   CIMParamValueArray out;
   EXPECT_EQ(cimFailureOf([&] {
-              this->provider_.invokeMethod(this->env_, kNs, paths[0], "ConnectLink",
+              this->provider_.invokeMethod(this->env_, kNs, paths[0], "NoSuchMethod",
                                            CIMParamValueArray(), out);
             }),
             (CimFailure{CIMException::METHOD_NOT_FOUND, TypeParam::kSource, 432, std::nullopt}));
