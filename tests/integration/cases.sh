@@ -29,6 +29,9 @@ CALLIN='Zeph_CallInSettingData.InstanceID="Velmar:Zeph_CallInSettingData"'
 DIALOUT='Zeph_DialOutSettingData.InstanceID="Velmar:Zeph_DialOutSettingData"'
 SERVICE_KEYS='SystemCreationClassName="Zeph_System",SystemName="Zeph",CreationClassName="Zeph_RASService",Name="RASService"'
 SERVICE="Zeph_RASService.$SERVICE_KEYS"
+PPP_KEYS='SystemCreationClassName="Zeph_System",SystemName="Zeph",CreationClassName="Zeph_PPPProtocolEndpoint"'
+PPP_IN="Zeph_PPPProtocolEndpoint.$PPP_KEYS,Name=\"DialInEndpoint\""
+PPP_OUT="Zeph_PPPProtocolEndpoint.$PPP_KEYS,Name=\"DialOutEndpoint\""
 CALLIN_VALUES='InstanceID="Velmar:Zeph_CallInSettingData",ElementName="Dial-In Configuration",LineToAnswer=1,RingsBeforeAnswer=2,AutoDisableTimer=10,AutoDisableFlag=false,DNNumber="5550142"'
 DIALOUT_VALUES='InstanceID="Velmar:Zeph_DialOutSettingData",ElementName="Dial-Out Settings",DialOutNumber="5550199",DialRetries=3,DialInterval=30,DialOutUserName="0",DialOutPassword=""'
 
@@ -124,6 +127,37 @@ case_changes() {
   check "mi service on" "ENABLED" "$(appliance-ctl reg get ModemStatus)"
 }
 
+# PPP endpoints: both listed; the dial-out options read from its file; an option set through
+# the dial-out setLine script; refused values; ConnectLink on a link that is up.
+case_ppp() {
+  check "ein PPP endpoints" "$(printf '%s\n' "$HOST:$PPP_IN" "$HOST:$PPP_OUT")" \
+    "$(wbem ein Zeph_PPPProtocolEndpoint)"
+  check "gi PPP dial-out" \
+    "$HOST:$PPP_OUT $PPP_KEYS,Name=\"DialOutEndpoint\",ElementName=\"PPP Configuration\",IfName=\"\",IfStatus=true,ConnectionStatus=1,ConnectButton=true,DisconnectButton=false,IPHeaderComp=false,SoftwareComp=false,IdleTimeout=300,MRU=1500,MTU=1500,PapStatus=false,chapStatus=false,MschapStatus=false,Mschapv2Status=false,authLevel=0,csAuth=false,maxConfigureNak=5,maxConfigureRequest=10,maxTerminateReq=3" \
+    "$(wbem gi "$PPP_OUT")"
+  journal_clear
+  wbem mi "$PPP_OUT" MTU=1400
+  check "mi MTU: file" "mtu 1400" "$(grep '^mtu' /qv/etc/ppp/options_dialout)"
+  check "mi MTU: script" "/opt/etc/RasProviderScripts/setLine_dialout mtu 1400" \
+    "$(journal | grep 'setLine_dialout mtu')"
+  before=$(cat /qv/etc/ppp/options_dialout)
+  check "mi MTU below range" "(1) CIM_ERR_FAILED: #RAS_MODEM_11#" "$(cim_error mi "$PPP_OUT" MTU=100)"
+  check "mi terminate requests above range" "(1) CIM_ERR_FAILED: #RAS_MODEM_8#" \
+    "$(cim_error mi "$PPP_OUT" maxTerminateReq=9)"
+  check "mi idle wrongly typed" '(4) CIM_ERR_INVALID_PARAMETER: Unable to convert "x" into UInt16' \
+    "$(cim_error mi "$PPP_OUT" IdleTimeout=x)"
+  check "refused options change no option" "$before" "$(cat /qv/etc/ppp/options_dialout)"
+  appliance-ctl link up dialout ppp1 10.0.0.1 10.0.0.2
+  journal_clear
+  check "cm ConnectLink" "$HOST:$PPP_OUT ConnectLink: 1" "$(wbem cm "$PPP_OUT" ConnectLink)"
+  check "cm ConnectLink: journal" \
+    "$(printf '%s\n' '/sbin/ifconfig ppp1 | grep "inet" | grep "P-t-P"|cut -b35-53 | cut -f1 -d" " > /tmp/ip_addr' 'ping -c 2 -w 2 -I ppp1 10.0.0.2')" \
+    "$(journal)"
+  check "cm unknown method" "(17) CIM_ERR_METHOD_NOT_FOUND: Frobnicate" \
+    "$(cim_error cm "$PPP_OUT" Frobnicate)"
+  appliance-ctl link down ppp1
+}
+
 # A restart (SIGHUP) unloads and reloads the module; it reads the changed files anew.
 case_restart() {
   cimom_restart
@@ -136,7 +170,7 @@ case_restart() {
 
 # One request of a mixed sequence: gi, ei or mi on one of the three classes.
 mixed_request() {
-  case $(($1 % 9)) in
+  case $(($1 % 10)) in
     0) wbem gi "$CALLIN" ;;
     1) wbem ei Zeph_DialOutSettingData ;;
     2) wbem mi "$SERVICE" modemStatus=true ;;
@@ -146,6 +180,7 @@ mixed_request() {
     6) wbem gi "$SERVICE" ;;
     7) wbem ei Zeph_CallInSettingData ;;
     8) wbem mi "$DIALOUT" "DialRetries=$(($1 % 10 + 1))" ;;
+    9) wbem gi "$PPP_OUT" ;;
   esac
 }
 
@@ -181,6 +216,7 @@ cimom_start || exit 1
 case_names
 case_reads
 case_changes
+case_ppp
 case_restart
 case_load
 cimom_stop
