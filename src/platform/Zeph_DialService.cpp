@@ -104,7 +104,23 @@ void remove_ppp_link(unsigned long) {
   }
 }
 
+namespace {
+
+// When the CIMOM unloads the module (at shutdown or on SIGHUP), the subscription must end
+// first: the platform library's thread would otherwise go on calling into code that is no
+// longer mapped, and the library itself may be unloaded under it. Made at the first
+// subscription, after every other object of the module, so it is destroyed before them all
+// and the callback never meets a destroyed logger or file list.
+struct SubscriptionEndsAtUnload {
+  ~SubscriptionEndsAtUnload() { ras::stopModemStatusNotify(); }
+};
+
+}  // namespace
+
 int ras::startModemStatusNotify() {
+  static SubscriptionEndsAtUnload endsAtUnload;
+  // A re-initialised module replaces its subscription instead of adding a second one.
+  stopModemStatusNotify();
   const int result =
       QvlNotifyRegChangeStart(kRegSection, kRegGroup, kRegModemStatus, remove_ppp_link, 0, &handle);
   if (result == 0) platformLogDebug(kLogNotifyStarted);
@@ -112,5 +128,7 @@ int ras::startModemStatusNotify() {
 }
 
 void ras::stopModemStatusNotify() {
-  if (handle != -1) QvlNotifyRegChangeStop(handle);
+  if (handle == -1) return;
+  QvlNotifyRegChangeStop(handle);
+  handle = -1;
 }

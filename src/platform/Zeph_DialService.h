@@ -23,7 +23,8 @@ std::string findDialOutInterface();
 // The interface recorded in the marker file, "ppp" followed by its unit.
 std::string readActiveInterface();
 
-// Subscribes remove_ppp_link to changes of "ModemStatus"; the platform's result.
+// Subscribes remove_ppp_link to changes of "ModemStatus", ending any earlier subscription;
+// the platform's result. The subscription ends at the latest when the module is unloaded.
 int startModemStatusNotify();
 
 // Ends the subscription if there is one.

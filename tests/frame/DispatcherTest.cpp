@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
+#include <filesystem>
 #include <functional>
 #include <stdexcept>
 #include <thread>
@@ -122,6 +124,42 @@ TEST(ModuleLibrary, ExportsTheFactoryAndTheInterfaceVersion) {
   EXPECT_NE(provider->getAssociatorProvider(), nullptr);
   provider->initialize(TestEnvironment::make());
   EXPECT_STREQ(version(), "3.0.3");
+}
+
+std::size_t threadCount() {
+  const std::filesystem::directory_iterator tasks("/proc/self/task");
+  return static_cast<std::size_t>(std::distance(begin(tasks), end(tasks)));
+}
+
+// The thread count once it settles at `expected` (a joined thread can be listed a moment
+// longer), or what it is after a generous bound.
+std::size_t threadCountSettlingAt(std::size_t expected) {
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  std::size_t count = threadCount();
+  while (count != expected && std::chrono::steady_clock::now() < deadline) {
+    std::this_thread::yield();
+    count = threadCount();
+  }
+  return count;
+}
+
+// A CIMOM unloads the module at shutdown and on SIGHUP. The "ModemStatus" subscription that
+// initialize started (the platform library's notification thread) must end with it, or that
+// thread goes on calling into unmapped code; initialising again replaces it.
+TEST(ModuleLibrary, UnloadingEndsTheModemStatusSubscription) {
+  const std::size_t before = threadCount();
+  void* library = dlopen(ZEPH_MODULE_PATH, RTLD_NOW | RTLD_LOCAL);
+  ASSERT_NE(library, nullptr) << dlerror();
+  const auto factory = reinterpret_cast<OpenWBEM::CppProviderBaseIFC* (*)()>(
+      dlsym(library, "createProviderZeph_RASProvider"));
+  ASSERT_NE(factory, nullptr);
+  OpenWBEM::IntrusiveReference<OpenWBEM::CppProviderBaseIFC> provider(factory());
+  provider->initialize(TestEnvironment::make());
+  provider->initialize(TestEnvironment::make());
+  EXPECT_EQ(threadCountSettlingAt(before + 1), before + 1);
+  provider = 0;
+  ASSERT_EQ(dlclose(library), 0);
+  EXPECT_EQ(threadCountSettlingAt(before), before);
 }
 
 TEST_F(DispatcherTest, UnknownClassIsRefusedWithoutMessageAfterForwarding) {
