@@ -2,7 +2,6 @@
 #ifndef OW_CIMFLAVOR_HPP_INCLUDE_GUARD_
 #define OW_CIMFLAVOR_HPP_INCLUDE_GUARD_
 #include "OW_CIMBase.hpp"
-#include "OW_CIMNULL.hpp"
 #include "OW_Types.hpp"
 #include "OW_config.h"
 
@@ -21,7 +20,6 @@ class CIMFlavor : public CIMBase {
   };
 
   CIMFlavor(Flavor flavor);
-  explicit CIMFlavor(CIMNULL_t);
   CIMFlavor();
   virtual void setNull();
   bool isValid() const;

@@ -2,7 +2,6 @@
 #ifndef OW_CIMVALUE_HPP_INCLUDE_GUARD_
 #define OW_CIMVALUE_HPP_INCLUDE_GUARD_
 #include "OW_Array.hpp"
-#include "OW_Bool.hpp"
 #include "OW_CIMBase.hpp"
 #include "OW_CIMDataType.hpp"
 #include "OW_CIMFwd.hpp"

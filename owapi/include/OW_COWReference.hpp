@@ -1,25 +1,19 @@
 // Copy-on-write handle over an ordinary object with a separately allocated count.
 #ifndef OW_COW_REFERENCE_HPP_INCLUDE_GUARD_
 #define OW_COW_REFERENCE_HPP_INCLUDE_GUARD_
-#include <atomic>
-
-#include "OW_COWIntrusiveReference.hpp"
+#include "OW_COWReferenceBase.hpp"
 #include "OW_config.h"
 
 namespace OW_NAMESPACE {
 
 template <class T>
-class COWReference {
+class COWReference : private COWReferenceBase {
  public:
   typedef T element_type;
 
-  COWReference() : m_pObj(0), m_pRefCount(0) {}
-  explicit COWReference(T* ptr) : m_pObj(ptr), m_pRefCount(new std::atomic<long>(1)) {}
-  COWReference(const COWReference& arg) : m_pObj(arg.m_pObj), m_pRefCount(arg.m_pRefCount) {
-    if (m_pRefCount != 0) {
-      ++*m_pRefCount;
-    }
-  }
+  COWReference() : m_pObj(0) {}
+  explicit COWReference(T* ptr) : m_pObj(ptr) {}
+  COWReference(const COWReference& arg) : COWReferenceBase(arg), m_pObj(arg.m_pObj) {}
   ~COWReference() { decRef(); }
   COWReference& operator=(const COWReference& arg) {
     COWReference(arg).swap(*this);
@@ -30,21 +24,27 @@ class COWReference {
     return *this;
   }
   void swap(COWReference& arg) {
+    COWReferenceBase::swap(arg);
     T* obj = m_pObj;
     m_pObj = arg.m_pObj;
     arg.m_pObj = obj;
-    std::atomic<long>* count = m_pRefCount;
-    m_pRefCount = arg.m_pRefCount;
-    arg.m_pRefCount = count;
   }
-  T* operator->() { return writable(); }
-  T& operator*() { return *writable(); }
+  T* operator->() {
+    checkNull(m_pObj);
+    getWriteLock();
+    return m_pObj;
+  }
+  T& operator*() {
+    checkNull(m_pObj);
+    getWriteLock();
+    return *m_pObj;
+  }
   const T* operator->() const {
-    COWIntrusiveReferenceHelpers::checkNull(m_pObj);
+    checkNull(m_pObj);
     return m_pObj;
   }
   const T& operator*() const {
-    COWIntrusiveReferenceHelpers::checkNull(m_pObj);
+    checkNull(m_pObj);
     return *m_pObj;
   }
   const T* getPtr() const { return m_pObj; }
@@ -52,24 +52,32 @@ class COWReference {
 
  private:
   void decRef() {
-    if (m_pRefCount != 0 && --*m_pRefCount == 0) {
-      delete m_pRefCount;
+    if (COWReferenceBase::decRef()) {
       delete m_pObj;
     }
     m_pObj = 0;
-    m_pRefCount = 0;
   }
-  T* writable() {
-    COWIntrusiveReferenceHelpers::checkNull(m_pObj);
-    if (*m_pRefCount > 1) {
-      COWReference(new T(*m_pObj)).swap(*this);
+  // The copy is made by an unqualified COWReferenceClone, declared below this class as in the
+  // released headers: for a T whose associated namespaces do not include this one (such as
+  // std::vector<UInt8>) no overload is found and the write access does not compile.
+  void getWriteLock() {
+    if (refCountGreaterThanOne()) {
+      T* tmp = COWReferenceClone(m_pObj);
+      if (COWReferenceBase::getWriteLock()) {
+        delete tmp;
+      } else {
+        m_pObj = tmp;
+      }
     }
-    return m_pObj;
   }
 
   T* m_pObj;
-  std::atomic<long>* m_pRefCount;
 };
+
+template <class T>
+inline T* COWReferenceClone(T* obj) {
+  return new T(*obj);
+}
 
 }  // namespace OW_NAMESPACE
 

@@ -6,7 +6,6 @@
 #include "OW_IntrusiveCountableBase.hpp"
 #include "OW_IntrusiveReference.hpp"
 #include "OW_LogLevel.hpp"
-#include "OW_LogMessage.hpp"
 #include "OW_String.hpp"
 #include "OW_config.h"
 

@@ -8,7 +8,6 @@
 #include "OW_IntrusiveReference.hpp"
 #include "OW_Logger.hpp"
 #include "OW_ProviderFwd.hpp"
-#include "OW_RepositoryIFC.hpp"
 #include "OW_config.h"
 
 namespace OW_NAMESPACE {

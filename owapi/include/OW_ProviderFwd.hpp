@@ -1,7 +1,8 @@
 // Forward declarations of the provider environments and their reference typedefs.
 #ifndef OW_PROVIDER_FWD_HPP_INCLUDE_GUARD_
 #define OW_PROVIDER_FWD_HPP_INCLUDE_GUARD_
-#include "OW_CommonFwd.hpp"
+#include "OW_ArrayFwd.hpp"
+#include "OW_IntrusiveReference.hpp"
 #include "OW_config.h"
 
 namespace OW_NAMESPACE {

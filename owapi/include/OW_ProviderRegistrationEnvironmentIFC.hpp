@@ -5,9 +5,7 @@
 #include "OW_IfcsFwd.hpp"
 #include "OW_IntrusiveCountableBase.hpp"
 #include "OW_IntrusiveReference.hpp"
-#include "OW_Logger.hpp"
 #include "OW_ProviderFwd.hpp"
-#include "OW_RepositoryIFC.hpp"
 #include "OW_String.hpp"
 #include "OW_config.h"
 

@@ -1,14 +1,9 @@
 // Result handlers that collect results into an array or an enumeration.
 #ifndef OW_RESULT_HANDLERS_HPP_INCLUDE_GUARD_
 #define OW_RESULT_HANDLERS_HPP_INCLUDE_GUARD_
-#include "OW_Array.hpp"
 #include "OW_CIMFwd.hpp"
-#include "OW_CIMInstanceEnumeration.hpp"
-#include "OW_CIMObjectPathEnumeration.hpp"
 #include "OW_CommonFwd.hpp"
-#include "OW_Enumeration.hpp"
 #include "OW_ResultHandlerIFC.hpp"
-#include "OW_String.hpp"
 #include "OW_config.h"
 
 namespace OW_NAMESPACE {

@@ -3,6 +3,7 @@
 
 #include "OW_CIM.hpp"
 #include "OW_CIMFeatures.hpp"
+#include "OW_Enumeration.hpp"
 #include "OW_ResultHandlers.hpp"
 
 namespace OW_NAMESPACE {

@@ -1,6 +1,7 @@
 // CIMOMHandleIFC: array and enumeration forms of the association and query operations.
 #include "OW_CIM.hpp"
 #include "OW_CIMOMHandleIFC.hpp"
+#include "OW_Enumeration.hpp"
 #include "OW_ResultHandlers.hpp"
 
 namespace OW_NAMESPACE {

@@ -119,7 +119,6 @@ const char* const kFlavorNames[] = {"EnableOverride", "DisableOverride", "Restri
 }  // namespace
 
 CIMFlavor::CIMFlavor(Flavor flavor) : m_flavor(flavor) {}
-CIMFlavor::CIMFlavor(CIMNULL_t) : m_flavor(INVALID) {}
 CIMFlavor::CIMFlavor() : m_flavor(INVALID) {}
 void CIMFlavor::setNull() {
   m_flavor = INVALID;

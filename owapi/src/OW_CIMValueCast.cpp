@@ -1,6 +1,9 @@
 // Conversion of a value to a declared type through its text form.
 #include "OW_CIMValueCast.hpp"
 
+#include <vector>
+
+#include "OW_Bool.hpp"
 #include "OW_CIM.hpp"
 
 namespace OW_NAMESPACE {
@@ -74,15 +77,16 @@ CIMValue parseScalar(const String& text, const CIMDataType& dt) {
   }
 }
 
+// Collected in a std::vector: Array<T>::push_back does not compile for the number types.
 template <typename T>
 Array<T> collect(const StringArray& texts, const CIMDataType& dt) {
-  Array<T> out;
+  std::vector<T> out;
   for (size_t i = 0; i < texts.size(); ++i) {
     T x;
     parseScalar(texts[i], dt).get(x);
     out.push_back(x);
   }
-  return out;
+  return Array<T>(out.begin(), out.end());
 }
 
 CIMValue buildArray(const StringArray& texts, const CIMDataType& dt) {
@@ -122,8 +126,9 @@ CIMValue buildArray(const StringArray& texts, const CIMDataType& dt) {
 
 template <typename T>
 StringArray textsOf(const CIMValue& value) {
-  Array<T> items;
-  value.get(items);
+  Array<T> got;
+  value.get(got);
+  const Array<T>& items = got;  // read only: no write access, as in collect
   StringArray out;
   for (size_t i = 0; i < items.size(); ++i) {
     out.push_back(CIMValue(items[i]).toString());

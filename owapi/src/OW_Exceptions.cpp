@@ -6,6 +6,7 @@
 #include "OW_CIMDateTime.hpp"
 #include "OW_CIMValueCast.hpp"
 #include "OW_COWIntrusiveReference.hpp"
+#include "OW_COWReferenceBase.hpp"
 #include "OW_Enumeration.hpp"
 #include "OW_Logger.hpp"
 #include "OW_NULLValueException.hpp"
@@ -31,14 +32,21 @@ OW_DEFINE_EXCEPTION(Assertion)
 // Known to callers only as an Exception, as in the released library.
 OW_DECLARE_EXCEPTION(NULLCOWIntrusiveReference)
 OW_DEFINE_EXCEPTION(NULLCOWIntrusiveReference)
+OW_DECLARE_EXCEPTION(NULLCOWReference)
+OW_DEFINE_EXCEPTION(NULLCOWReference)
 
 namespace {
 const char* const kNullReferenceMsg = "NULL COWIntrusiveReference dereferenced";
+const char* const kNullCOWReferenceMsg = "NULL COWReference dereferenced";
 const char* const kOutOfBoundsMsg = "Array Index out of bounds";
 }  // namespace
 
 void COWIntrusiveReferenceHelpers::throwNULLException() {
   OW_THROW(NULLCOWIntrusiveReferenceException, kNullReferenceMsg);
+}
+
+void COWReferenceBase::throwNULLException() {
+  OW_THROW(NULLCOWReferenceException, kNullCOWReferenceMsg);
 }
 
 void throwArrayOutOfBoundsIfNecessary(size_t idx, size_t size) {

@@ -5,6 +5,8 @@
 #include "OW_CIMInstance.hpp"
 #include "OW_CIMObjectPath.hpp"
 #include "OW_CIMQualifierType.hpp"
+#include "OW_Enumeration.hpp"
+#include "OW_String.hpp"
 
 namespace OW_NAMESPACE {
 

@@ -1,6 +1,7 @@
 // CIMDataType names and truth, and value casts between scalar and array types.
 #include <gtest/gtest.h>
 
+#include "OW_Bool.hpp"
 #include "OW_CIM.hpp"
 #include "OW_CIMValueCast.hpp"
 
@@ -44,7 +45,7 @@ TEST(CIMValueCastTest, ArraysConvertElementByElement) {
       CIMValueCast::castValueToDataType(CIMValue(texts), CIMDataType(CIMDataType::UINT16, 0));
   ASSERT_EQ(CIMDataType::UINT16, numbers.getType());
   ASSERT_TRUE(numbers.isArray());
-  UInt16Array values = numbers.toUInt16Array();
+  const UInt16Array values = numbers.toUInt16Array();
   EXPECT_EQ(20, values[1]);
 
   CIMValue back = CIMValueCast::castValueToDataType(numbers, CIMDataType(CIMDataType::STRING, 0));

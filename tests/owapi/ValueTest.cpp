@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "OW_Bool.hpp"
 #include "OW_CIM.hpp"
 #include "OW_CIMValueCast.hpp"
 
