@@ -4,6 +4,8 @@
 #include <iostream>
 #include <stdexcept>
 
+#include "OW_LogMessage.hpp"
+
 using namespace OpenWBEM;
 
 namespace rascim {

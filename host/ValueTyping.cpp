@@ -1,5 +1,7 @@
 // ValueTyping.cpp: wbemcli value texts to CIM values of a declared type, and MOF qualifiers
 // to CIM qualifiers.
+#include <vector>
+
 #include "CimBuild.hpp"
 #include "CimText.hpp"
 #include "OW_Array.hpp"
@@ -20,9 +22,11 @@ namespace {
 template <class T, class Parse>
 CIMValue makeValue(const TextValue& v, Parse parse) {
   if (!v.isArray) return CIMValue(parse(String(v.text.c_str())));
-  Array<T> items;
+  // Built from a range: a real OpenWBEM's Array<T>::push_back does not compile for the
+  // number types (its copy-on-write clone is not found by name lookup for std::vector<UInt8>).
+  std::vector<T> items;
   for (const TextValue& item : v.items) items.push_back(parse(String(item.text.c_str())));
-  return CIMValue(items);
+  return CIMValue(Array<T>(items.begin(), items.end()));
 }
 
 CIMValue numberValue(const TextValue& v, const std::string& type) {

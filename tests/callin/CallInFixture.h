@@ -10,6 +10,7 @@
 
 #include "ApplianceTest.h"
 #include "CimFailure.h"
+#include "OW_Bool.hpp"
 #include "OW_CIMClass.hpp"
 #include "OW_CIMInstance.hpp"
 #include "OW_CIMObjectPath.hpp"
