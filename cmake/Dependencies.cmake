@@ -12,6 +12,11 @@ if(OPENWBEM_PREFIX)
   add_library(ras_openwbem INTERFACE)
   target_include_directories(ras_openwbem SYSTEM INTERFACE ${OPENWBEM_PREFIX}/include/openwbem)
   target_link_libraries(ras_openwbem INTERFACE ${_ow_libs})
+  # libowcppprovifc needs libowprovider.so.4, which the linker drops from our own binaries as
+  # unused. A DT_RUNPATH serves only the object's own dependencies, a DT_RPATH theirs too: so
+  # that the build tree's binaries find the installation's libraries at test discovery and at
+  # run time (also inside the appliance) without LD_LIBRARY_PATH, write the old kind.
+  target_link_options(ras_openwbem INTERFACE LINKER:--disable-new-dtags)
   set(RAS_OPENWBEM_STANDIN OFF)
 else()
   add_subdirectory(owapi)
