@@ -15,6 +15,7 @@
 #include "OW_CIMInstance.hpp"
 #include "OW_CIMObjectPath.hpp"
 #include "OW_CIMProperty.hpp"
+#include "OW_CIMQualifier.hpp"
 #include "OW_CIMValue.hpp"
 #include "OW_ResultHandlers.hpp"
 #include "QvlStandIn.h"
@@ -73,10 +74,18 @@ class CallInTest : public ApplianceTest {
   }
 
   // Every property of a get in MOF form (qualifiers, type, name, value), in instance order.
+  // Built from the parts: the layout of CIMProperty::toMOF() differs between OpenWBEM builds.
   std::vector<std::string> getAsMof() {
     std::vector<std::string> mof;
-    for (const OpenWBEM::CIMProperty& property : get().getProperties())
-      mof.push_back(property.toMOF().c_str());
+    for (const OpenWBEM::CIMProperty& property : get().getProperties()) {
+      std::string line;
+      for (const OpenWBEM::CIMQualifier& q : property.getQualifiers())
+        line +=
+            "[" + std::string(q.getName().c_str()) + "(" + q.getValue().toMOF().c_str() + ")]\n";
+      line += std::string(property.getDataType().toString().c_str()) + " " +
+              property.getName().c_str() + " = " + property.getValue().toMOF().c_str() + ";\n";
+      mof.push_back(line);
+    }
     return mof;
   }
 
