@@ -13,10 +13,13 @@ if(OPENWBEM_PREFIX)
   target_include_directories(ras_openwbem SYSTEM INTERFACE ${OPENWBEM_PREFIX}/include/openwbem)
   target_link_libraries(ras_openwbem INTERFACE ${_ow_libs})
   # libowcppprovifc needs libowprovider.so.4, which the linker drops from our own binaries as
-  # unused. A DT_RUNPATH serves only the object's own dependencies, a DT_RPATH theirs too: so
-  # that the build tree's binaries find the installation's libraries at test discovery and at
-  # run time (also inside the appliance) without LD_LIBRARY_PATH, write the old kind.
-  target_link_options(ras_openwbem INTERFACE LINKER:--disable-new-dtags)
+  # unused. A DT_RUNPATH serves only the object's own dependencies, a DT_RPATH theirs too (and
+  # those of libraries loaded later): so that the build tree's programs find the installation's
+  # libraries at test discovery and at run time (also inside the appliance) without
+  # LD_LIBRARY_PATH, executables get the old kind. Not the module: it is what ships into a
+  # CIMOM, whose own LD_LIBRARY_PATH must keep precedence.
+  target_link_options(ras_openwbem INTERFACE
+                      $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-Wl,--disable-new-dtags>)
   set(RAS_OPENWBEM_STANDIN OFF)
 else()
   add_subdirectory(owapi)
