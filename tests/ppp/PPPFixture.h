@@ -13,6 +13,7 @@
 #include "ApplianceTest.h"
 #include "CallEnvironment.hpp"
 #include "CimFailure.h"
+#include "OW_Bool.hpp"
 #include "OW_CIMClass.hpp"
 #include "OW_CIMInstance.hpp"
 #include "OW_CIMObjectPath.hpp"
