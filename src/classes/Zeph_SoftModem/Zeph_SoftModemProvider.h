@@ -5,12 +5,14 @@
 
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_SoftModem.h"
+#include "Zeph_SoftModemImpl.h"
 
 struct Zeph_SoftModemTraits : ras::ClassTraits<Zeph_SoftModem, Zeph_SoftModemInstanceManager> {
   static constexpr const char* kClass = Zeph_SoftModemName;
   static constexpr const char* kSource = "../src/Zeph_SoftModemProvider";
   static constexpr auto kCreate = &Manager::createZeph_SoftModem;
   static constexpr auto kDestroy = &Manager::destroyZeph_SoftModem;
+  using ImplManager = Zeph_SoftModemImplInstanceManager;
   static const ras::PropertyTable<Wrapper>& properties();
 };
 
