@@ -5,12 +5,14 @@
 
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_SerialPort.h"
+#include "Zeph_SerialPortImpl.h"
 
 struct Zeph_SerialPortTraits : ras::ClassTraits<Zeph_SerialPort, Zeph_SerialPortInstanceManager> {
   static constexpr const char* kClass = Zeph_SerialPortName;
   static constexpr const char* kSource = "../src/Zeph_SerialPortProvider";
   static constexpr auto kCreate = &Manager::createZeph_SerialPort;
   static constexpr auto kDestroy = &Manager::destroyZeph_SerialPort;
+  using ImplManager = Zeph_SerialPortImplInstanceManager;
   static const ras::PropertyTable<Wrapper>& properties();
 };
 
