@@ -32,6 +32,12 @@ SERVICE="Zeph_RASService.$SERVICE_KEYS"
 PPP_KEYS='SystemCreationClassName="Zeph_System",SystemName="Zeph",CreationClassName="Zeph_PPPProtocolEndpoint"'
 PPP_IN="Zeph_PPPProtocolEndpoint.$PPP_KEYS,Name=\"DialInEndpoint\""
 PPP_OUT="Zeph_PPPProtocolEndpoint.$PPP_KEYS,Name=\"DialOutEndpoint\""
+MODEM_KEYS='SystemCreationClassName="Zeph_System",SystemName="Zeph",CreationClassName="Zeph_SoftModem"'
+MODEM_IN="Zeph_SoftModem.$MODEM_KEYS,DeviceID=\"SoftModemIn\""
+MODEM_OUT="Zeph_SoftModem.$MODEM_KEYS,DeviceID=\"SoftModemOut\""
+PORT_KEYS='SystemCreationClassName="Zeph_System",SystemName="Zeph",CreationClassName="Zeph_SerialPort"'
+PORT_IN="Zeph_SerialPort.$PORT_KEYS,DeviceId=\"DialInSerialPort\""
+PORT_OUT="Zeph_SerialPort.$PORT_KEYS,DeviceId=\"DialOutSerialPort\""
 CALLIN_VALUES='InstanceID="Velmar:Zeph_CallInSettingData",ElementName="Dial-In Configuration",LineToAnswer=1,RingsBeforeAnswer=2,AutoDisableTimer=10,AutoDisableFlag=false,DNNumber="5550142"'
 DIALOUT_VALUES='InstanceID="Velmar:Zeph_DialOutSettingData",ElementName="Dial-Out Settings",DialOutNumber="5550199",DialRetries=3,DialInterval=30,DialOutUserName="0",DialOutPassword=""'
 
@@ -158,6 +164,75 @@ case_ppp() {
   appliance-ctl link down ppp1
 }
 
+# The soft modem and the serial ports: both instances of each listed, the modem's codes read
+# from the modem and the connect script, changes written to the modem, the connect script and
+# the port files with their restarts, and refused or wrongly typed values changing nothing.
+case_modem_serial() {
+  check "ein soft modem" "$(printf '%s\n' "$HOST:$MODEM_IN" "$HOST:$MODEM_OUT")" \
+    "$(wbem ein Zeph_SoftModem)"
+  check "ein serial port" "$(printf '%s\n' "$HOST:$PORT_IN" "$HOST:$PORT_OUT")" \
+    "$(wbem ein Zeph_SerialPort)"
+  check "gi soft modem in" \
+    "$HOST:$MODEM_IN $MODEM_KEYS,DeviceID=\"SoftModemIn\",Name=\" V.42 Modem \",ElementName=\" DSP Soft Modem \",ErrorControl=true,CallSpeed=0,Compression=true" \
+    "$(wbem gi "$MODEM_IN")"
+  check "gi serial port out" \
+    "$HOST:$PORT_OUT $PORT_KEYS,DeviceId=\"DialOutSerialPort\",Name=\"ttyS1\",ElementName=\"SerialPort\",FlowControl=1" \
+    "$(wbem gi "$PORT_OUT")"
+
+  # wbemcli sends the whole instance: every writable property's setter runs, in order.
+  journal_clear
+  wbem mi "$MODEM_IN" CallSpeed=0,ErrorControl=false
+  check "mi modem in: modem codes" "m0 n0 k2" \
+    "$(appliance-ctl modem get 2) $(appliance-ctl modem get 4) $(appliance-ctl modem get 3)"
+  check "mi modem in: journal" \
+    "$(for code in '2 m0' '4 n0' '3 k2'; do
+      printf '%s\n' "/opt/etc/RasProviderScripts/setModemParam $code" 'killall -9 mgetty' 'init q'
+    done)" \
+    "$(journal)"
+  journal_clear
+  wbem mi "$MODEM_OUT" CallSpeed=0
+  check "mi modem out: file" 'declare MODEM_OPT_SPEED="&n0"' \
+    "$(declare_line MODEM_OPT_SPEED /qv/etc/ppp/ppp_call_v2k)"
+  check "mi modem out: journal" \
+    "$(for var in 'ERRC=/ c declare MODEM_OPT_ERRC="&m5"' 'SPEED=/ c declare MODEM_OPT_SPEED="&n0"' \
+      'COMP=/ c declare MODEM_OPT_COMP="&k2"'; do
+      printf '%s\n' "sed -i '/^declare MODEM_OPT_$var' /qv/etc/ppp/ppp_call_v2k" \
+        '/sbin/ifconfig | grep "ppp" > /tmp/ifout ' 'killall -9 chat' '/qv/etc/ppp/ppp_hup_v2k ppp'
+    done)" \
+    "$(journal)"
+
+  journal_clear
+  wbem mi "$PORT_IN" Name=ttyS2
+  check "mi port name: files" "port ttyS2 declare -r SERIAL_PORT=\"ttyS2\"" \
+    "$(grep '^port' /opt/etc/mgetty+sendfax/mgetty.config) $(grep SERIAL_PORT= /qv/etc/ppp/mgetty_v2k)"
+  wbem mi "$PORT_OUT" FlowControl=2
+  check "mi flow control: options" "#crtscts xonxoff" \
+    "$(grep -x '#\?crtscts' /qv/etc/ppp/options_dialout) $(grep -x '#\?xonxoff' /qv/etc/ppp/options_dialout)"
+
+  before=$(cat /qv/etc/ppp/ppp_call_v2k /qv/etc/ppp/mgetty_v2k /qv/etc/ppp/options_dialout \
+    /opt/etc/mgetty+sendfax/mgetty.config /var/lib/appliance/modem)
+  journal_clear
+  check "mi port name refused" \
+    '(4) CIM_ERR_INVALID_PARAMETER: The value of $prop.getName() is invalid.&#10;#CFG_000_0000,MOF_Props_Zeph_SerialPort_$prop.getName()#' \
+    "$(cim_error mi "$PORT_IN" Name=ttyS-1)"
+  check "mi port name too long" \
+    "(4) CIM_ERR_INVALID_PARAMETER: The length of Name must be <= 32&#10;#CFG_000_0004,MOF_Props_Zeph_SerialPort_Name,32#" \
+    "$(cim_error mi "$PORT_IN" Name=ttyS123456789012345678901234567890)"
+  check "mi flow control refused" "(1) CIM_ERR_FAILED: #RAS_MODEM_100#" \
+    "$(cim_error mi "$PORT_OUT" FlowControl=3)"
+  check "mi speed wrongly typed" '(4) CIM_ERR_INVALID_PARAMETER: Unable to convert "fast" into UInt8' \
+    "$(cim_error mi "$MODEM_OUT" CallSpeed=fast)"
+  check "mi speed overflow" '(4) CIM_ERR_INVALID_PARAMETER: Unable to convert "256" into UInt8' \
+    "$(cim_error mi "$MODEM_IN" CallSpeed=256)"
+  check "refusals change nothing" "$before" \
+    "$(cat /qv/etc/ppp/ppp_call_v2k /qv/etc/ppp/mgetty_v2k /qv/etc/ppp/options_dialout \
+      /opt/etc/mgetty+sendfax/mgetty.config /var/lib/appliance/modem)"
+  # Only the valid Name sent ahead of the refused FlowControl was applied.
+  check "refusals run nothing else" \
+    "/bin/sed -i '/declare -r SERIAL_PORT/ c declare -r SERIAL_PORT=\"ttyS1\"' /qv/etc/ppp/pppd_addo_v2k" \
+    "$(journal)"
+}
+
 # A restart (SIGHUP) unloads and reloads the module; it reads the changed files anew.
 case_restart() {
   cimom_restart
@@ -166,6 +241,10 @@ case_restart() {
     "$(wbem gi "$CALLIN" | tr ',' '\n' | grep RingsBeforeAnswer)"
   check "dial-out after restart" "DialRetries=4" \
     "$(wbem gi "$DIALOUT" | tr ',' '\n' | grep DialRetries)"
+  check "modem after restart" "ErrorControl=false" \
+    "$(wbem gi "$MODEM_IN" | tr ',' '\n' | grep ErrorControl)"
+  check "serial port after restart" "FlowControl=2" \
+    "$(wbem gi "$PORT_OUT" | tr ',' '\n' | grep FlowControl)"
 }
 
 # One request of a mixed sequence: gi, ei or mi on one of the three classes.
@@ -217,6 +296,7 @@ case_names
 case_reads
 case_changes
 case_ppp
+case_modem_serial
 case_restart
 case_load
 cimom_stop
