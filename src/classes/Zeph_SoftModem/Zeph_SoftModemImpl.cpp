@@ -106,14 +106,18 @@ void writeCallingCode(const ModemOption& option, const std::string& code) {
   runCommand(callingEditFormat(option).c_str(), {code, kCallScript});
 }
 
-// Runs getModemParam for the option into its result file and reads it (the reader deletes it).
-void readModemCode(const ModemOption& option, const char* code, std::string& value) {
+// getModemParam prints the option's code into its result file, which the reader deletes.
+void fetchModemCode(const ModemOption& option) {
   runCommand(kCmdGetModemParam, {kGetModemParam, option.parameter, option.resultFile});
+}
+
+void readModemCode(const ModemOption& option, const char* code, std::string& value) {
+  fetchModemCode(option);
   getConfigParameter(option.resultFile, answeringFormat(code, "%s").c_str(), &value);
 }
 
 int readModemSpeed(int current) {
-  runCommand(kCmdGetModemParam, {kGetModemParam, kCallSpeed.parameter, kCallSpeed.resultFile});
+  fetchModemCode(kCallSpeed);
   getConfigParameter(kCallSpeed.resultFile, answeringFormat(kSpeedLetter, "%d").c_str(), &current);
   return current;
 }
@@ -165,16 +169,9 @@ Zeph_SoftModemImpl::Role Zeph_SoftModemImpl::role() const {
 }
 
 void Zeph_SoftModemImpl::Initialize_Parameters() {
-  switch (role()) {
-    case Role::Answering:
-      readAnsweringCodes();
-      break;
-    case Role::Calling:
-      readCallingCodes();
-      break;
-    case Role::Other:
-      break;
-  }
+  const Role own = role();
+  if (own == Role::Answering) readAnsweringCodes();
+  if (own == Role::Calling) readCallingCodes();
 }
 
 void Zeph_SoftModemImpl::readAnsweringCodes() {
@@ -229,19 +226,15 @@ int Zeph_SoftModemImpl::getErrorControl(bool& value, ras::Qualifiers&) const {
 
 int Zeph_SoftModemImpl::setErrorControl(bool value) {
   const char* code = value ? kErrorControlOn : kErrorControlOff;
-  switch (role()) {
-    case Role::Answering:
-      platformLogDebug(kLogErrorControlDialIn);
-      writeModemCode(kErrorControl, code);
-      restartAnswering(kLogErrorControlMgetty);
-      break;
-    case Role::Calling:
-      platformLogDebug(kLogErrorControlDialOut);
-      writeCallingCode(kErrorControl, calling(code));
-      restartCalling(kLogErrorControlDialOutRestart);
-      break;
-    case Role::Other:
-      break;
+  const Role own = role();
+  if (own == Role::Answering) {
+    platformLogDebug(kLogErrorControlDialIn);
+    writeModemCode(kErrorControl, code);
+    restartAnswering(kLogErrorControlMgetty);
+  } else if (own == Role::Calling) {
+    platformLogDebug(kLogErrorControlDialOut);
+    writeCallingCode(kErrorControl, calling(code));
+    restartCalling(kLogErrorControlDialOutRestart);
   }
   errorControl_ = value;
   return kStatusOk;
@@ -255,21 +248,17 @@ int Zeph_SoftModemImpl::getCallSpeed(unsigned char& value, ras::Qualifiers&) con
 // Any 8-bit speed is written as it is; the modem decides what it makes of it.
 int Zeph_SoftModemImpl::setCallSpeed(unsigned char value) {
   platformLogDebug(formatText(kLogSpeedValue, value, value));
-  switch (role()) {
-    case Role::Answering:
-      writeModemCode(kCallSpeed, speedCode(value));
-      platformLogDebug(formatText(kLogSpeed, value));
-      platformLogDebug(kLogSpeedDialIn);
-      restartAnswering(kLogSpeedMgetty);
-      break;
-    case Role::Calling:
-      writeCallingCode(kCallSpeed, kCallingPrefix + speedCode(value));
-      platformLogDebug(formatText(kLogSpeed, value));
-      platformLogDebug(kLogSpeedDialOut);
-      restartCalling(kLogSpeedDialOutRestart);
-      break;
-    case Role::Other:
-      break;
+  const Role own = role();
+  if (own == Role::Answering) {
+    writeModemCode(kCallSpeed, speedCode(value));
+    platformLogDebug(formatText(kLogSpeed, value));
+    platformLogDebug(kLogSpeedDialIn);
+    restartAnswering(kLogSpeedMgetty);
+  } else if (own == Role::Calling) {
+    writeCallingCode(kCallSpeed, kCallingPrefix + speedCode(value));
+    platformLogDebug(formatText(kLogSpeed, value));
+    platformLogDebug(kLogSpeedDialOut);
+    restartCalling(kLogSpeedDialOutRestart);
   }
   callSpeed_ = value;
   return kStatusOk;
@@ -282,20 +271,16 @@ int Zeph_SoftModemImpl::getCompression(bool& value, ras::Qualifiers&) const {
 
 int Zeph_SoftModemImpl::setCompression(bool value) {
   const char* code = value ? kCompressionOn : kCompressionOff;
-  switch (role()) {
-    case Role::Answering:
-      // Two spellings, as the appliance's logs have always shown them.
-      platformLogDebug(value ? kLogCompressionOnDialIn : kLogCompressionOffDialIn);
-      writeModemCode(kCompression, code);
-      restartAnswering(kLogCompressionMgetty);
-      break;
-    case Role::Calling:
-      platformLogDebug(kLogCompressionDialOut);
-      writeCallingCode(kCompression, calling(code));
-      restartCalling(kLogCompressionDialOutRestart);
-      break;
-    case Role::Other:
-      break;
+  const Role own = role();
+  if (own == Role::Answering) {
+    // Two spellings, as the appliance's logs have always shown them.
+    platformLogDebug(value ? kLogCompressionOnDialIn : kLogCompressionOffDialIn);
+    writeModemCode(kCompression, code);
+    restartAnswering(kLogCompressionMgetty);
+  } else if (own == Role::Calling) {
+    platformLogDebug(kLogCompressionDialOut);
+    writeCallingCode(kCompression, calling(code));
+    restartCalling(kLogCompressionDialOutRestart);
   }
   compression_ = value;
   return kStatusOk;
