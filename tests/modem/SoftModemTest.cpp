@@ -6,6 +6,7 @@
 #include <map>
 
 #include "DeviceFixture.h"
+#include "OW_Bool.hpp"
 
 namespace {
 
