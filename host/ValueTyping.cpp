@@ -62,6 +62,12 @@ std::string shapeName(bool isArray) {
   return isArray ? "an array" : "a single value";
 }
 
+// A single value where the type wants one, an array where it wants an array.
+void requireShape(const TextValue& value, const MofType& type, const std::string& name) {
+  if (value.isArray != type.isArray)
+    throw TypingError(name + " is " + typeName(type) + ": give " + shapeName(type.isArray));
+}
+
 bool isWholeNumber(const std::string& t) {
   const size_t start = !t.empty() && (t[0] == '-' || t[0] == '+') ? 1 : 0;
   return start < t.size() && t.find_first_not_of("0123456789", start) == std::string::npos;
@@ -79,8 +85,7 @@ CIMValue qualifierValue(const MofValue& v) {
 
 CIMValue typedValue(const TextValue& value, const MofType& type, const MofSchema& schema,
                     const std::string& name) {
-  if (value.isArray != type.isArray)
-    throw TypingError(name + " is " + typeName(type) + ": give " + shapeName(type.isArray));
+  requireShape(value, type, name);
   try {
     return convert(value, type, schema);
   } catch (const OpenWBEM::Exception& e) {
@@ -94,8 +99,7 @@ CIMValue typedValue(const TextValue& value, const MofType& type, const MofSchema
 // conversion's own message.
 CIMValue propertyValue(const TextValue& value, const MofType& type, const MofSchema& schema,
                        const std::string& name) {
-  if (value.isArray != type.isArray)
-    throw TypingError(name + " is " + typeName(type) + ": give " + shapeName(type.isArray));
+  requireShape(value, type, name);
   TextValue given = value;
   if (!value.isArray && value.text.empty() && isNumberType(type.name)) given.text = "0";
   if (!value.isArray && value.text.empty() && type.name == "boolean") return CIMValue(CIMNULL);

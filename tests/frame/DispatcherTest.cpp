@@ -13,6 +13,7 @@
 #include "CFG_Exception.h"
 #include "CimFailure.h"
 #include "DispatchFixture.h"
+#include "ThreadCount.h"
 #include "TrapSoftModem.h"
 #include "Zeph_CallInSettingData.h"
 #include "Zeph_DialOutRoutes.h"
@@ -128,23 +129,6 @@ TEST(ModuleLibrary, ExportsTheFactoryAndTheInterfaceVersion) {
   EXPECT_NE(provider->getAssociatorProvider(), nullptr);
   provider->initialize(TestEnvironment::make());
   EXPECT_STREQ(version(), "3.0.3");
-}
-
-std::size_t threadCount() {
-  const std::filesystem::directory_iterator tasks("/proc/self/task");
-  return static_cast<std::size_t>(std::distance(begin(tasks), end(tasks)));
-}
-
-// The thread count once it settles at `expected` (a joined thread can be listed a moment
-// longer), or what it is after a generous bound.
-std::size_t threadCountSettlingAt(std::size_t expected) {
-  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-  std::size_t count = threadCount();
-  while (count != expected && std::chrono::steady_clock::now() < deadline) {
-    std::this_thread::yield();
-    count = threadCount();
-  }
-  return count;
 }
 
 // A CIMOM unloads the module at shutdown and on SIGHUP. The "ModemStatus" subscription that
