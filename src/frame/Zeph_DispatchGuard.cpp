@@ -5,13 +5,13 @@
 #include <string>
 
 #include "OW_Logger.hpp"
+#include "Zeph_ModuleGlobals.h"
 #include "Zeph_ProviderErrors.h"
 
 namespace ras {
 namespace {
 
 constexpr char kSource[] = "../src/Zeph_RASProvider";
-constexpr char kLogComponent[] = "Zeph_RASProvider";
 constexpr char kStdExceptionHead[] = "Unknown std::exception caught in Zeph_RASProvider\n";
 constexpr char kUnknownThrowHead[] = "Unknown throw caught in Zeph_RASProvider\n";
 constexpr char kLineEnd[] = "\n";

@@ -14,6 +14,11 @@
 #include "Zeph_CachedConfigFile.h"
 #include "Zeph_RequestScope.h"
 
+namespace ras {
+// The log component the module asks its CIMOM's loggers for.
+inline constexpr char kLogComponent[] = "Zeph_RASProvider";
+}  // namespace ras
+
 extern OpenWBEM::IntrusiveReference<OpenWBEM::Logger> logger;
 // The CIMOM handle of the request being served on this thread; empty between requests.
 extern ras::CurrentCIMOMHandle hdl;

@@ -7,17 +7,11 @@
 OpenWBEM::IntrusiveReference<OpenWBEM::Logger> logger;
 ras::CurrentCIMOMHandle hdl;
 
-namespace {
-
-constexpr char kLogComponent[] = "Zeph_RASProvider";
-
-}  // namespace
-
 Zeph_RASProvider::~Zeph_RASProvider() = default;
 
 void Zeph_RASProvider::initialize(const EnvRef& env) {
   ras::RequestScope request(env);
-  logger = env->getLogger(kLogComponent);
+  logger = env->getLogger(ras::kLogComponent);
   ras::initializeModuleClasses(env);
 }
 
