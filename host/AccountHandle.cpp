@@ -6,11 +6,9 @@
 
 #include "CimBuild.hpp"
 #include "OW_Array.hpp"
-#include "OW_CIMClass.hpp"
 #include "OW_CIMException.hpp"
 #include "OW_CIMInstance.hpp"
 #include "OW_CIMObjectPath.hpp"
-#include "OW_CIMQualifierType.hpp"
 #include "OW_CIMValue.hpp"
 #include "OW_ResultHandlerIFC.hpp"
 
@@ -24,10 +22,6 @@ const char kAccountNamespace[] = "root/cimv2";
 const char kNameProperty[] = "Name";
 const char kUserIdProperty[] = "TextualUserID";
 const char kNotServed[] = "ras-cim's CIMOM handle serves only Zeph_Account instances";
-
-[[noreturn]] void notServed() {
-  throw CIMException(kHostErrorFile, kHostErrorLine, CIMException::NOT_SUPPORTED, kNotServed);
-}
 
 TextValue quoted(const std::string& text) {
   TextValue v;
@@ -54,7 +48,9 @@ std::vector<std::vector<Binding>> readAccounts(const std::string& file) {
 }  // namespace
 
 AccountHandle::AccountHandle(std::string accountsFile, std::shared_ptr<const MofSchema> schema)
-    : accountsFile_(std::move(accountsFile)), schema_(std::move(schema)) {}
+    : RefusingHandle(kHostErrorFile, kHostErrorLine, kNotServed),
+      accountsFile_(std::move(accountsFile)),
+      schema_(std::move(schema)) {}
 
 CIMInstanceArray AccountHandle::accounts(const String& ns, const String& className) const {
   if (!className.equalsIgnoreCase(kAccountClass))
@@ -87,92 +83,6 @@ CIMInstance AccountHandle::getInstance(const String& ns, const Path& instanceNam
   for (size_t i = 0; i < all.size(); ++i)
     if (wanted && all[i].getPropertyValue(kNameProperty).equal(wanted)) return all[i];
   throw CIMException(kHostErrorFile, kHostErrorLine, CIMException::NOT_FOUND);
-}
-
-void AccountHandle::close() {}
-
-void AccountHandle::enumClass(const String&, const String&, CIMClassResultHandlerIFC&, Deep,
-                              LocalOnly, Qualifiers, ClassOrigin) {
-  notServed();
-}
-void AccountHandle::enumClassNames(const String&, const String&, StringResultHandlerIFC&, Deep) {
-  notServed();
-}
-CIMClass AccountHandle::getClass(const String&, const String&, LocalOnly, Qualifiers, ClassOrigin,
-                                 PropertyList) {
-  notServed();
-}
-CIMValue AccountHandle::invokeMethod(const String&, const Path&, const String&,
-                                     const CIMParamValueArray&, CIMParamValueArray&) {
-  notServed();
-}
-CIMQualifierType AccountHandle::getQualifierType(const String&, const String&) {
-  notServed();
-}
-void AccountHandle::setQualifierType(const String&, const CIMQualifierType&) {
-  notServed();
-}
-void AccountHandle::deleteQualifierType(const String&, const String&) {
-  notServed();
-}
-void AccountHandle::enumQualifierTypes(const String&, CIMQualifierTypeResultHandlerIFC&) {
-  notServed();
-}
-void AccountHandle::modifyClass(const String&, const CIMClass&) {
-  notServed();
-}
-void AccountHandle::createClass(const String&, const CIMClass&) {
-  notServed();
-}
-void AccountHandle::deleteClass(const String&, const String&) {
-  notServed();
-}
-void AccountHandle::modifyInstance(const String&, const CIMInstance&, Qualifiers, PropertyList) {
-  notServed();
-}
-CIMObjectPath AccountHandle::createInstance(const String&, const CIMInstance&) {
-  notServed();
-}
-void AccountHandle::deleteInstance(const String&, const Path&) {
-  notServed();
-}
-void AccountHandle::setProperty(const String&, const Path&, const String&, const CIMValue&) {
-  notServed();
-}
-CIMValue AccountHandle::getProperty(const String&, const Path&, const String&) {
-  notServed();
-}
-void AccountHandle::associatorNames(const String&, const Path&, CIMObjectPathResultHandlerIFC&,
-                                    const String&, const String&, const String&, const String&) {
-  notServed();
-}
-void AccountHandle::associators(const String&, const Path&, CIMInstanceResultHandlerIFC&,
-                                const String&, const String&, const String&, const String&,
-                                Qualifiers, ClassOrigin, PropertyList) {
-  notServed();
-}
-void AccountHandle::associatorsClasses(const String&, const Path&, CIMClassResultHandlerIFC&,
-                                       const String&, const String&, const String&, const String&,
-                                       Qualifiers, ClassOrigin, PropertyList) {
-  notServed();
-}
-void AccountHandle::referenceNames(const String&, const Path&, CIMObjectPathResultHandlerIFC&,
-                                   const String&, const String&) {
-  notServed();
-}
-void AccountHandle::references(const String&, const Path&, CIMInstanceResultHandlerIFC&,
-                               const String&, const String&, Qualifiers, ClassOrigin,
-                               PropertyList) {
-  notServed();
-}
-void AccountHandle::referencesClasses(const String&, const Path&, CIMClassResultHandlerIFC&,
-                                      const String&, const String&, Qualifiers, ClassOrigin,
-                                      PropertyList) {
-  notServed();
-}
-void AccountHandle::execQuery(const String&, CIMInstanceResultHandlerIFC&, const String&,
-                              const String&) {
-  notServed();
 }
 
 }  // namespace rascim

@@ -47,9 +47,7 @@ TEST_F(CallInTest, GetShowsEveryPropertyFromTheScriptAndTheRegistry) {
              "string ElementName = \"Dial-In Configuration\";\n", "uint16 LineToAnswer = 1;\n",
              "uint16 RingsBeforeAnswer = 2;\n", "uint16 AutoDisableTimer = 10;\n",
              "boolean AutoDisableFlag = false;\n", "string DNNumber = \"5550142\";\n"}));
-  OpenWBEM::CIMObjectPathArray paths;
-  OpenWBEM::CIMObjectPathArrayBuilder result(paths);
-  provider_->enumInstanceNames(TestEnvironment::make(), kNs, kClass, result, kNoClass);
+  const OpenWBEM::CIMObjectPathArray paths = enumNames(kClass);
   ASSERT_EQ(paths.size(), 1u);
   EXPECT_EQ(paths[0].getKeyValue("InstanceID").toString(), kInstanceID);
   EXPECT_TRUE(appliance::journal().empty());

@@ -155,7 +155,7 @@ TEST_F(CallInTest, AFailedRegistryWriteIsStatus100) {
   {
     const appliance::ScopedEnv broken("QVL_REGISTRY", "/nonexistent/registry");
     for (const auto& [property, value] : rows) {
-      initEnv_->logged().clear();
+      env_->log().clear();
       EXPECT_EQ(modify({{property, value}}), failure(kFailed, "#RAS_MODEM_100#", kLineSetterStatus))
           << property;
       const Lines log = logged();

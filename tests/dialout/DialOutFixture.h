@@ -8,21 +8,12 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "AccountHandle.hpp"
-#include "ApplianceTest.h"
-#include "CallEnvironment.hpp"
-#include "CimFailure.h"
+#include "ClientFixture.h"
 #include "MofSchema.hpp"
-#include "OW_CIMClass.hpp"
-#include "OW_CIMInstance.hpp"
-#include "OW_CIMObjectPath.hpp"
-#include "OW_CIMValue.hpp"
 #include "TestEnvironment.h"
-#include "Zeph_ModuleGlobals.h"
-#include "Zeph_RASProvider.h"
 
 inline constexpr char kDialOutClass[] = "Zeph_DialOutSettingData";
 inline constexpr char kDialOutID[] = "Velmar:Zeph_DialOutSettingData";
@@ -35,6 +26,7 @@ inline constexpr char kDialOutOptions[] = "/qv/etc/ppp/options_dialout";
 inline constexpr char kPapSecrets[] = "/etc/ppp/pap-secrets";
 inline constexpr char kChapSecrets[] = "/etc/ppp/chap-secrets";
 inline constexpr char kAccountsFile[] = "/var/lib/appliance/accounts";
+inline const client::Target kDialOut = client::settingData(kDialOutClass, kDialOutID);
 inline const std::vector<std::string> kDialOutFiles = {kCallScript, kCallbackScript,
                                                        kDialOutOptions, kPapSecrets, kChapSecrets};
 
@@ -60,40 +52,18 @@ class AccountEnvironment : public TestEnvironment {
   OpenWBEM::CIMOMHandleIFCRef accounts_{new rascim::AccountHandle(kAccountsFile, schema())};
 };
 
-using Change = std::pair<std::string, OpenWBEM::CIMValue>;
+using client::Change;
+using client::textOf;
 
-class DialOutTest : public ApplianceTest {
+class DialOutTest : public client::ClientTest {
  protected:
-  // Loads the module into the fresh appliance (the instance reads its files when it is built).
-  void SetUp() override {
-    ApplianceTest::SetUp();
-    ConnectionStatus = DialOutConnectionStatus = false;
-    check_key.clear();
-    env_ = AccountEnvironment::make();
-    rascim::withCall(env_, [&](const auto& call) { provider_->initialize(call); });
-  }
+  TestEnvRef makeEnvironment() const override { return AccountEnvironment::make(); }
 
-  OpenWBEM::CIMInstance get() {
-    OpenWBEM::CIMObjectPath path(OpenWBEM::CIMName(kDialOutClass), kNs);
-    path.setKeyValue("InstanceID", OpenWBEM::CIMValue(OpenWBEM::String(kDialOutID)));
-    return rascim::withCall(env_, [&](const auto& call) {
-      return provider_->getInstance(call, kNs, path, OpenWBEM::WBEMFlags::E_NOT_LOCAL_ONLY,
-                                    OpenWBEM::WBEMFlags::E_INCLUDE_QUALIFIERS,
-                                    OpenWBEM::WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0, kNoClass);
-    });
-  }
+  OpenWBEM::CIMInstance get() { return ClientTest::get(kDialOut); }
 
   // Modifies the instance with the given properties in order; the CIM error, if any.
   CimFailure modify(const std::vector<Change>& changes) {
-    OpenWBEM::CIMInstance instance(kDialOutClass);
-    instance.setProperty("InstanceID", OpenWBEM::CIMValue(OpenWBEM::String(kDialOutID)));
-    for (const auto& [name, value] : changes) instance.setProperty(name.c_str(), value);
-    return cimFailureOf([&] {
-      rascim::withCall(env_, [&](const auto& call) {
-        provider_->modifyInstance(call, kNs, instance, instance,
-                                  OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS, 0, kNoClass);
-      });
-    });
+    return ClientTest::modify(kDialOut, changes);
   }
 
   // Every dial-out file's content, by path.
@@ -102,22 +72,6 @@ class DialOutTest : public ApplianceTest {
     for (const std::string& file : kDialOutFiles) content[file] = appliance::readFile(file);
     return content;
   }
-
-  // Texts logged since the module was initialised.
-  std::vector<std::string> logged() const {
-    std::vector<std::string> texts;
-    for (const LogLine& line : env_->logged()) texts.push_back(line.text);
-    return texts;
-  }
-
-  const OpenWBEM::String kNs{"root/cimv2"};
-  const OpenWBEM::CIMClass kNoClass{OpenWBEM::CIMNULL};
-  OpenWBEM::IntrusiveReference<AccountEnvironment> env_;
-  OpenWBEM::IntrusiveReference<Zeph_RASProvider> provider_{new Zeph_RASProvider};
 };
-
-inline std::string textOf(const OpenWBEM::CIMValue& value) {
-  return value ? value.toString().c_str() : "<null>";
-}
 
 #endif

@@ -1,10 +1,8 @@
-// A provider environment for in-process tests: a logger that records level and text, and a
-// CIMOM handle that serves nothing.
-#ifndef FRAME_TESTENVIRONMENT_H
-#define FRAME_TESTENVIRONMENT_H
+// A provider environment for in-process tests: a recording logger and a CIMOM handle that
+// serves nothing.
+#ifndef RAS_TESTS_TESTENVIRONMENT_H
+#define RAS_TESTS_TESTENVIRONMENT_H
 
-#include <memory>
-#include <string>
 #include <vector>
 
 #include "OW_Array.hpp"
@@ -14,24 +12,7 @@
 #include "OW_ProviderEnvironmentIFC.hpp"
 #include "OW_RepositoryIFC.hpp"
 #include "OW_String.hpp"
-
-struct LogLine {
-  std::string category;  // "ERROR", "DEBUG", ...
-  std::string text;
-};
-
-class RecordingLogger : public OpenWBEM::Logger {
- public:
-  explicit RecordingLogger(std::shared_ptr<std::vector<LogLine>> lines);
-  std::vector<LogLine>& lines() const { return *lines_; }
-
- protected:
-  void doProcessLogMessage(const OpenWBEM::LogMessage& message) const override;
-  OpenWBEM::LoggerRef doClone() const override;
-
- private:
-  std::shared_ptr<std::vector<LogLine>> lines_;
-};
+#include "RecordingLogger.h"
 
 // Environment handed to initialize and to each request.
 class TestEnvironment : public OpenWBEM::ProviderEnvironmentIFC {
@@ -39,7 +20,9 @@ class TestEnvironment : public OpenWBEM::ProviderEnvironmentIFC {
   TestEnvironment();
   static OpenWBEM::IntrusiveReference<TestEnvironment> make() { return new TestEnvironment; }
 
-  std::vector<LogLine>& logged() const { return *lines_; }
+  // What the module logged through this environment (and its clones' loggers).
+  std::vector<LogLine> logged() const { return recorder_->lines(); }
+  RecordingLogger& log() const { return *recorder_; }
   OpenWBEM::LoggerRef loggerRef() const { return logger_; }
 
   OpenWBEM::CIMOMHandleIFCRef getCIMOMHandle() const override { return handle_; }
@@ -61,7 +44,7 @@ class TestEnvironment : public OpenWBEM::ProviderEnvironmentIFC {
   OpenWBEM::ProviderEnvironmentIFCRef clone() const override { return new TestEnvironment; }
 
  private:
-  std::shared_ptr<std::vector<LogLine>> lines_;
+  OpenWBEM::IntrusiveReference<RecordingLogger> recorder_;
   OpenWBEM::LoggerRef logger_;
   OpenWBEM::CIMOMHandleIFCRef handle_;
   OpenWBEM::OperationContext context_;

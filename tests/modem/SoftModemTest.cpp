@@ -162,7 +162,7 @@ TEST_F(SoftModem, EachSetWritesItsRolesPlaceAndRestartsItsSide) {
   for (const Row& row : rows) {
     SCOPED_TRACE(std::string(row.device.id) + " " + row.property + "=" + textOf(row.value));
     appliance::clearJournal();
-    env_->logged().clear();
+    env_->log().clear();
     EXPECT_EQ(modify(row.device, {{row.property, row.value}}), CimFailure{});
     EXPECT_EQ(appliance::journal(), row.journal);
     if (row.parameter != 0) {

@@ -6,23 +6,15 @@
 #include "OW_Format.hpp"
 #include "OW_LogMessage.hpp"
 #include "OW_Logger.hpp"
+#include "RecordingLogger.h"
 
 using namespace OpenWBEM;
 
 namespace {
 
-class RecordingLogger : public Logger {
- public:
-  RecordingLogger(ELogLevel level, std::vector<LogMessage>* out)
-      : Logger("Zeph_RASProvider", level), m_out(out) {}
-
- protected:
-  void doProcessLogMessage(const LogMessage& message) const override { m_out->push_back(message); }
-  LoggerRef doClone() const override { return LoggerRef(new RecordingLogger(*this)); }
-
- private:
-  std::vector<LogMessage>* m_out;
-};
+IntrusiveReference<RecordingLogger> recorder(ELogLevel level) {
+  return new RecordingLogger(level, "Zeph_RASProvider");
+}
 
 int evaluations = 0;
 String counted(const char* text) {
@@ -43,8 +35,8 @@ TEST(LoggerTest, CallsAndMacrosEmitAtOrBelowTheLevel) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.categories);
-    std::vector<LogMessage> out;
-    LoggerRef logger(new RecordingLogger(row.level, &out));
+    const IntrusiveReference<RecordingLogger> out = recorder(row.level);
+    LoggerRef logger(out);
     logger->logFatalError("f");
     logger->logError("e");
     logger->logInfo("i");
@@ -54,26 +46,27 @@ TEST(LoggerTest, CallsAndMacrosEmitAtOrBelowTheLevel) {
     OW_LOG_ERROR(logger, counted("e"));
     OW_LOG_INFO(logger, counted("i"));
     OW_LOG_DEBUG(logger, Format("%1", counted("d")));
-    String seen;
-    for (const LogMessage& m : out) {
+    std::string seen;
+    for (const LogLine& m : out->lines()) {
       seen += (seen.empty() ? "" : " ") + m.category;
-      EXPECT_STREQ("Zeph_RASProvider", m.component.c_str());
+      EXPECT_EQ("Zeph_RASProvider", m.component);
     }
-    EXPECT_STREQ(row.categories, seen.c_str());
-    EXPECT_EQ(int(out.size()) / 2, evaluations);
+    EXPECT_EQ(row.categories, seen);
+    EXPECT_EQ(int(out->lines().size()) / 2, evaluations);
   }
 }
 
 TEST(LoggerTest, MessagesKeepTextAndSite) {
-  std::vector<LogMessage> out;
-  LoggerRef logger(new RecordingLogger(E_ERROR_LEVEL, &out));
+  const IntrusiveReference<RecordingLogger> recorded = recorder(E_ERROR_LEVEL);
+  LoggerRef logger(recorded);
   logger->logError("Zeph_CallInSettingDataImpl::getDNNumber\n", "file.cpp", 12, "m");
   logger->logMessage(Logger::STR_DEBUG_CATEGORY, "always");
+  const std::vector<LogLine> out = recorded->lines();
   ASSERT_EQ(2u, out.size());
-  EXPECT_STREQ("Zeph_CallInSettingDataImpl::getDNNumber\n", out[0].message.c_str());
-  EXPECT_STREQ("file.cpp", out[0].filename);
-  EXPECT_EQ(12, out[0].fileline);
-  EXPECT_STREQ("DEBUG", out[1].category.c_str());
+  EXPECT_EQ("Zeph_CallInSettingDataImpl::getDNNumber\n", out[0].text);
+  EXPECT_EQ("file.cpp", out[0].file);
+  EXPECT_EQ(12, out[0].fileLine);
+  EXPECT_EQ("DEBUG", out[1].category);
   LoggerRef copy = logger->clone();
   EXPECT_EQ(E_ERROR_LEVEL, copy->getLogLevel());
 }

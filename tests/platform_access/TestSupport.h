@@ -1,6 +1,6 @@
-// Test support: a Logger that records each message as "CATEGORY|text" with its thread,
-// installed as the module's logger while a ScopedLogRecorder lives, and a fixture with a
-// scratch directory outside /tmp (the reader deletes files under /tmp).
+// Test support: the recording logger installed as the module's logger while a
+// ScopedLogRecorder lives, and a fixture with a scratch directory outside /tmp (the reader
+// deletes files under /tmp).
 #ifndef PLATFORM_ACCESS_TESTSUPPORT_H
 #define PLATFORM_ACCESS_TESTSUPPORT_H
 
@@ -9,54 +9,31 @@
 
 #include <filesystem>
 #include <fstream>
-#include <mutex>
 #include <string>
 #include <thread>
-#include <utility>
 #include <vector>
 
-#include "OW_LogMessage.hpp"
-#include "OW_Logger.hpp"
+#include "RecordingLogger.h"
 #include "Zeph_ModuleGlobals.h"
-
-class RecordingLogger : public OpenWBEM::Logger {
- public:
-  RecordingLogger() : Logger("platform_access_test", OpenWBEM::E_DEBUG_LEVEL) {}
-  std::vector<std::pair<std::string, std::thread::id>> entries() const {
-    std::lock_guard<std::mutex> lock(mutex_);
-    return entries_;
-  }
-
- protected:
-  void doProcessLogMessage(const OpenWBEM::LogMessage& message) const override {
-    std::lock_guard<std::mutex> lock(mutex_);
-    entries_.emplace_back(std::string(message.category.c_str()) + "|" + message.message.c_str(),
-                          std::this_thread::get_id());
-  }
-  OpenWBEM::LoggerRef doClone() const override { return new RecordingLogger(); }
-
- private:
-  mutable std::mutex mutex_;
-  mutable std::vector<std::pair<std::string, std::thread::id>> entries_;
-};
 
 class ScopedLogRecorder {
  public:
-  ScopedLogRecorder() : recorder_(new RecordingLogger()) { logger = recorder_; }
+  ScopedLogRecorder() : recorder_(new RecordingLogger(OpenWBEM::E_DEBUG_LEVEL)) {
+    logger = recorder_;
+  }
   ~ScopedLogRecorder() { logger = 0; }
 
   // The lines logged since the previous call.
   std::vector<std::string> newLines() {
-    const auto all = recorder_->entries();
-    std::vector<std::string> fresh;
-    for (std::size_t i = seen_; i < all.size(); ++i) fresh.push_back(all[i].first);
+    const std::vector<std::string> all = recorder_->categorised();
+    std::vector<std::string> fresh(all.begin() + static_cast<long>(seen_), all.end());
     seen_ = all.size();
     return fresh;
   }
   // The thread that logged `line` first (a default id when none did).
   std::thread::id threadOf(const std::string& line) const {
-    for (const auto& [text, thread] : recorder_->entries()) {
-      if (text == line) return thread;
+    for (const LogLine& logged : recorder_->lines()) {
+      if (logged.category + "|" + logged.text == line) return logged.thread;
     }
     return std::thread::id();
   }

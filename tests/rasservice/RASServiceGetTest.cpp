@@ -76,8 +76,10 @@ TEST_F(ServiceTest, EnumerationListsTheOneServiceWithoutTouchingALiveCall) {
   appliance::clearJournal();
   OpenWBEM::CIMInstanceArray instances;
   OpenWBEM::CIMInstanceArrayBuilder result(instances);
-  provider_->enumInstances(env_, kNs, "Zeph_RASService", result, E_NOT_LOCAL_ONLY, E_DEEP,
-                           E_EXCLUDE_QUALIFIERS, E_EXCLUDE_CLASS_ORIGIN, 0, kNoClass, kNoClass);
+  call([&](const auto& env) {
+    provider_->enumInstances(env, kNs, "Zeph_RASService", result, E_NOT_LOCAL_ONLY, E_DEEP,
+                             E_EXCLUDE_QUALIFIERS, E_EXCLUDE_CLASS_ORIGIN, 0, kNoClass, kNoClass);
+  });
   ASSERT_EQ(instances.size(), 1u);
   EXPECT_EQ(instances[0].getPropertyValue("modemStatus").toString(), "true");
   EXPECT_EQ(instances[0].getProperty("modemStatus").getQualifiers().size(), 0u);

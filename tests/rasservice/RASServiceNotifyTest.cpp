@@ -2,6 +2,7 @@
 // other programs reach the dial services, until the service is deleted.
 #include "ServiceFixture.h"
 
+using ::testing::Contains;
 using ::testing::ElementsAreArray;
 using namespace service;
 
@@ -19,10 +20,7 @@ std::string modemStatusOf(const OpenWBEM::CIMInstance& instance) {
 }
 
 TEST_F(ServiceTest, OutsideChangesActUntilTheServiceIsDeleted) {
-  const auto& initLog = initEnv_->logged();
-  EXPECT_TRUE(std::any_of(initLog.begin(), initLog.end(), [](const LogLine& line) {
-    return line.category == "DEBUG" && line.text == "Successful in Notify";
-  }));
+  EXPECT_THAT(loggedWithCategory(), Contains("DEBUG|Successful in Notify"));
   dialInUp();
   appliance::clearJournal();
 
@@ -43,7 +41,7 @@ TEST_F(ServiceTest, OutsideChangesActUntilTheServiceIsDeleted) {
   EXPECT_EQ(gates(), kBothOpen);
   EXPECT_EQ(modemStatusOf(get()), "true");
 
-  provider_->deleteInstance(env_, kNs, servicePath());
+  call([&](const auto& env) { provider_->deleteInstance(env, kNs, kService.path()); });
   appliance::clearJournal();
   qvlreg("DISABLED");
   EXPECT_TRUE(appliance::journal().empty());

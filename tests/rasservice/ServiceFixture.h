@@ -7,48 +7,13 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <mutex>
 #include <string>
 #include <vector>
 
-#include "ApplianceTest.h"
-#include "CimFailure.h"
-#include "OW_CIMClass.hpp"
-#include "OW_CIMInstance.hpp"
-#include "OW_CIMObjectPath.hpp"
-#include "OW_CIMProperty.hpp"
-#include "OW_CIMQualifier.hpp"
-#include "OW_CIMValue.hpp"
-#include "OW_LogMessage.hpp"
-#include "OW_Logger.hpp"
-#include "OW_ResultHandlers.hpp"
+#include "ClientFixture.h"
 #include "QvlStandIn.h"
-#include "TestEnvironment.h"
-#include "Zeph_ModuleGlobals.h"
-#include "Zeph_RASProvider.h"
 
 using Lines = std::vector<std::string>;
-
-// Records "CATEGORY|text" lines under a lock: the registry callback logs from its own thread.
-class LockedLogger : public OpenWBEM::Logger {
- public:
-  LockedLogger() : Logger("rasservice_test", OpenWBEM::E_DEBUG_LEVEL) {}
-  Lines lines() const {
-    std::lock_guard<std::mutex> lock(mutex_);
-    return lines_;
-  }
-
- protected:
-  void doProcessLogMessage(const OpenWBEM::LogMessage& message) const override {
-    std::lock_guard<std::mutex> lock(mutex_);
-    lines_.push_back(std::string(message.category.c_str()) + "|" + message.message.c_str());
-  }
-  OpenWBEM::LoggerRef doClone() const override { return new LockedLogger(); }
-
- private:
-  mutable std::mutex mutex_;
-  mutable Lines lines_;
-};
 
 namespace service {
 
@@ -114,15 +79,11 @@ inline void dialInUp() {
 
 }  // namespace service
 
-class ServiceTest : public ApplianceTest {
- protected:
-  void SetUp() override {
-    ApplianceTest::SetUp();
-    provider_->initialize(initEnv_);
-    logger = log_;  // after initialize, which installs the environment's logger
-  }
-  void TearDown() override { logger = 0; }
+inline const client::Target kService =
+    client::systemElement("Zeph_RASService", "Name", "RASService");
 
+class ServiceTest : public client::ClientTest {
+ protected:
   // The pristine appliance again, once the callbacks its registry rewrite causes are done.
   static void pristine() {
     appliance::reset();
@@ -137,50 +98,24 @@ class ServiceTest : public ApplianceTest {
     ASSERT_EQ(QvlNotifySync(), 0);
   }
 
-  OpenWBEM::CIMObjectPath servicePath() const {
-    OpenWBEM::CIMObjectPath path(OpenWBEM::CIMName("Zeph_RASService"), kNs);
-    for (const auto& [key, value] : {std::pair{"SystemCreationClassName", "Zeph_System"},
-                                     {"SystemName", "Zeph"},
-                                     {"CreationClassName", "Zeph_RASService"},
-                                     {"Name", "RASService"}}) {
-      path.setKeyValue(key, OpenWBEM::CIMValue(OpenWBEM::String(value)));
-    }
-    return path;
-  }
-
   OpenWBEM::CIMInstance get() {
-    return provider_->getInstance(env_, kNs, servicePath(), OpenWBEM::WBEMFlags::E_NOT_LOCAL_ONLY,
-                                  OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS,
-                                  OpenWBEM::WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0, kNoClass);
+    return ClientTest::get(kService, OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS);
   }
 
   // modifyInstance of modemStatus, then waits for the callback its registry write causes.
   CimFailure setModemStatus(bool value) {
-    OpenWBEM::CIMInstance instance("Zeph_RASService");
-    for (const OpenWBEM::CIMProperty& key : servicePath().getKeys()) instance.setProperty(key);
-    instance.setProperty("modemStatus", OpenWBEM::CIMValue(value));
-    const CimFailure failure = cimFailureOf([&] {
-      provider_->modifyInstance(env_, kNs, instance, instance,
-                                OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS, 0, kNoClass);
-    });
+    const CimFailure failure = modify(kService, {{"modemStatus", client::flag(value)}});
     EXPECT_EQ(QvlNotifySync(), 0);
     return failure;
   }
 
-  // Log lines since the previous call.
+  // Log lines ("CATEGORY|text") since the previous call.
   Lines newLog() {
-    const Lines all = log_->lines();
+    const Lines all = loggedWithCategory();
     Lines fresh(all.begin() + static_cast<long>(seen_), all.end());
     seen_ = all.size();
     return fresh;
   }
-
-  const OpenWBEM::String kNs{"root/cimv2"};
-  const OpenWBEM::CIMClass kNoClass{OpenWBEM::CIMNULL};
-  TestEnvRef initEnv_ = TestEnvironment::make();
-  TestEnvRef env_ = TestEnvironment::make();
-  OpenWBEM::IntrusiveReference<LockedLogger> log_{new LockedLogger()};
-  OpenWBEM::IntrusiveReference<Zeph_RASProvider> provider_{new Zeph_RASProvider};
 
  private:
   std::size_t seen_ = 0;
