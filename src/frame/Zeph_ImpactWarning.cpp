@@ -33,3 +33,14 @@ void ShowWarningMessage(OpenWBEM::Array<OpenWBEM::CIMQualifier>& qualifiers) {
     appendWarning(qualifiers, kDialOutWarning);
   }
 }
+
+namespace ras {
+
+void addFlagQualifier(OpenWBEM::Array<OpenWBEM::CIMQualifier>& qualifiers, const char* name,
+                      bool value) {
+  OpenWBEM::CIMQualifier qualifier(name);
+  qualifier.setValue(OpenWBEM::CIMValue(value));
+  qualifiers.push_back(qualifier);
+}
+
+}  // namespace ras

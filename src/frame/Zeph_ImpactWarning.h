@@ -9,4 +9,13 @@
 // Appends zero, one or two "ImpactWarning" qualifiers, from the session globals.
 void ShowWarningMessage(OpenWBEM::Array<OpenWBEM::CIMQualifier>& qualifiers);
 
+namespace ras {
+
+// Appends a boolean qualifier that tells the client about one property, such as "Write" (the
+// value can be changed now) or "Applicable".
+void addFlagQualifier(OpenWBEM::Array<OpenWBEM::CIMQualifier>& qualifiers, const char* name,
+                      bool value);
+
+}  // namespace ras
+
 #endif

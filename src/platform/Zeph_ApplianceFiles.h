@@ -12,6 +12,8 @@ inline constexpr char kCallScript[] = "/qv/etc/ppp/ppp_call_v2k";
 inline constexpr char kRouteScript[] = "/qv/etc/ppp/ip_up_add_v2k";
 inline constexpr char kDialInOptions[] = "/qv/etc/ppp/options_dialin";
 inline constexpr char kDialOutOptions[] = "/qv/etc/ppp/options_dialout";
+// The pppd options of the call-back link, which follows the dial-in link's settings.
+inline constexpr char kCallbackOptions[] = "/qv/etc/ppp/options_callback";
 inline constexpr char kCallbackConfig[] = "/opt/etc/mgetty+sendfax/callback.config";
 // Which dial link is up, and on which ppp unit.
 inline constexpr char kMarkerFile[] = "/qv/etc/ppp/ppp_active_if_file";

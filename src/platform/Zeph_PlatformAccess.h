@@ -1,8 +1,10 @@
 // The platform-access free functions every class goes through, in one include: the
-// configuration reader, the value checks, the registry and the dial service control.
+// configuration reader, the address lines, the value checks, the registry and the dial
+// service control.
 #ifndef ZEPH_PLATFORMACCESS_H
 #define ZEPH_PLATFORMACCESS_H
 
+#include "Zeph_AddressLine.h"
 #include "Zeph_ApplianceFiles.h"
 #include "Zeph_ConfigReader.h"
 #include "Zeph_DialService.h"

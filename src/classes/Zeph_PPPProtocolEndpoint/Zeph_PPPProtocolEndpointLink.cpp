@@ -6,6 +6,7 @@
 #include "OW_CIMValue.hpp"
 #include "Zeph_CommandRunner.h"
 #include "Zeph_DialServiceSteps.h"
+#include "Zeph_ImpactWarning.h"
 #include "Zeph_PPPProtocolEndpointImpl.h"
 #include "Zeph_PlatformAccess.h"
 #include "Zeph_PlatformLog.h"
@@ -91,9 +92,7 @@ std::string linkInterface(const PPPLink& link) {
 }
 
 void addApplicable(ras::Qualifiers& qualifiers, bool applicable) {
-  OpenWBEM::CIMQualifier qualifier(kApplicable);
-  qualifier.setValue(OpenWBEM::CIMValue(applicable));
-  qualifiers.push_back(qualifier);
+  addFlagQualifier(qualifiers, kApplicable, applicable);
 }
 
 // The service may run again: gate commented out, status line "#ENABLED", script resumed.

@@ -15,7 +15,6 @@ namespace {
 
 const char* const kSetLineScript = "/opt/etc/RasProviderScripts/setLine";
 const char* const kCallbackSuffix = "_callback";
-const char* const kCallbackOptions = "/qv/etc/ppp/options_callback";
 
 // Lines whose presence decides the compression options at construction.
 const char* const kNoVj = "novj";
