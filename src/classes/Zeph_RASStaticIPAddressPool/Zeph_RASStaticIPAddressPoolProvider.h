@@ -5,6 +5,7 @@
 
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_RASStaticIPAddressPool.h"
+#include "Zeph_RASStaticIPAddressPoolImpl.h"
 
 struct Zeph_RASStaticIPAddressPoolTraits
     : ras::ClassTraits<Zeph_RASStaticIPAddressPool, Zeph_RASStaticIPAddressPoolInstanceManager> {
@@ -12,6 +13,7 @@ struct Zeph_RASStaticIPAddressPoolTraits
   static constexpr const char* kSource = "../src/Zeph_RASStaticIPAddressPoolProvider";
   static constexpr auto kCreate = &Manager::createZeph_RASStaticIPAddressPool;
   static constexpr auto kDestroy = &Manager::destroyZeph_RASStaticIPAddressPool;
+  using ImplManager = Zeph_RASStaticIPAddressPoolImplInstanceManager;
   static const ras::PropertyTable<Wrapper>& properties();
 };
 
