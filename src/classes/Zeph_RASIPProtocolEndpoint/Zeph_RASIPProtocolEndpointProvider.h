@@ -5,6 +5,7 @@
 
 #include "Zeph_InstanceProvider.h"
 #include "Zeph_RASIPProtocolEndpoint.h"
+#include "Zeph_RASIPProtocolEndpointImpl.h"
 
 struct Zeph_RASIPProtocolEndpointTraits
     : ras::ClassTraits<Zeph_RASIPProtocolEndpoint, Zeph_RASIPProtocolEndpointInstanceManager> {
@@ -12,6 +13,7 @@ struct Zeph_RASIPProtocolEndpointTraits
   static constexpr const char* kSource = "../src/Zeph_RASIPProtocolEndpointProvider";
   static constexpr auto kCreate = &Manager::createZeph_RASIPProtocolEndpoint;
   static constexpr auto kDestroy = &Manager::destroyZeph_RASIPProtocolEndpoint;
+  using ImplManager = Zeph_RASIPProtocolEndpointImplInstanceManager;
   static const ras::PropertyTable<Wrapper>& properties();
 };
 
