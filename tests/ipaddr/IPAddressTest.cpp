@@ -5,22 +5,34 @@
 
 #include <functional>
 
-#include "DeviceFixture.h"
-#include "OW_Bool.hpp"
-#include "OW_CIMQualifier.hpp"
+#include "ClientFixture.h"
 
 namespace {
 
 using namespace OpenWBEM;
+using client::flag;
+using client::joined;
+using client::Lines;
+using client::text;
+using client::textOf;
 
 const char kIn[] = "/qv/etc/ppp/options_dialin";
 const char kOut[] = "/qv/etc/ppp/options_dialout";
 const char kCallback[] = "/qv/etc/ppp/options_callback";
 const char kSetIPEx[] = "/opt/etc/RasProviderScripts/setIPEx ";
-const Device kEndIn{"Zeph_RASIPProtocolEndpoint", "Name", "DialInEndpoint"};
-const Device kEndOut{"Zeph_RASIPProtocolEndpoint", "Name", "DialOutEndpoint"};
-const char kPoolIn[] = "Velmar:DialInRASStaticIPAddressPool";
-const char kPoolOut[] = "Velmar:DialOutRASStaticIPAddressPool";
+const client::Target kEndIn =
+    client::systemElement("Zeph_RASIPProtocolEndpoint", "Name", "DialInEndpoint");
+const client::Target kEndOut =
+    client::systemElement("Zeph_RASIPProtocolEndpoint", "Name", "DialOutEndpoint");
+const client::Target kPoolIn =
+    client::settingData("Zeph_RASStaticIPAddressPool", "Velmar:DialInRASStaticIPAddressPool");
+const client::Target kPoolOut =
+    client::settingData("Zeph_RASStaticIPAddressPool", "Velmar:DialOutRASStaticIPAddressPool");
+
+// The commands that restart each side when no call is up.
+const Lines kMgettyRestart = {"killall -9 mgetty", "init q"};
+const Lines kDialOutRestart = {"/sbin/ifconfig | grep \"ppp\" > /tmp/ifout ", "killall -9 chat",
+                               "/qv/etc/ppp/ppp_hup_v2k ppp"};
 
 // The address line as it stands in `file`: its first line with a ":" that is not a comment.
 std::string addressLine(const char* file) {
@@ -36,32 +48,15 @@ Lines files() {
   return {addressLine(kIn), addressLine(kOut), addressLine(kCallback)};
 }
 
-class IPAddress : public DeviceTest {
+class IPAddress : public client::ClientTest {
  protected:
-  CIMInstance pool(const char* id) {
-    CIMObjectPath path(CIMName("Zeph_RASStaticIPAddressPool"), "root/cimv2");
-    path.setKeyValue("InstanceID", text(id));
-    return rascim::withCall(env_, [&](const auto& call) {
-      return provider_->getInstance(call, kNs, path, WBEMFlags::E_NOT_LOCAL_ONLY,
-                                    WBEMFlags::E_INCLUDE_QUALIFIERS,
-                                    WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, 0, kNoClass);
-    });
-  }
-  CimFailure modifyPool(const char* id, const std::vector<Change>& changes) {
-    CIMInstance instance("Zeph_RASStaticIPAddressPool");
-    instance.setProperty("InstanceID", text(id));
-    for (const auto& [name, value] : changes) instance.setProperty(name.c_str(), value);
-    return cimFailureOf([&] {
-      rascim::withCall(env_, [&](const auto& call) {
-        provider_->modifyInstance(call, kNs, instance, instance, WBEMFlags::E_EXCLUDE_QUALIFIERS, 0,
-                                  kNoClass);
-      });
-    });
-  }
-  static std::string shown(const CIMInstance& instance, const char* name) {
-    const CIMProperty property = instance.getProperty(name);
-    const CIMQualifier write = property.getQualifier("Write");
-    return textOf(property.getValue()) + (write ? " write=" + textOf(write.getValue()) : "");
+  // The property's value, and its "Write" qualifier when it has one.
+  std::string shown(const client::Target& target, const char* name) {
+    const CIMInstance instance = get(target);
+    std::string out = textOf(instance.getPropertyValue(name));
+    for (const std::string& write : client::qualifierValues(instance, name, "Write"))
+      out += " write=" + write;
+    return out;
   }
 };
 
@@ -85,19 +80,19 @@ TEST_F(IPAddress, EachFormOfTheAddressLineIsReadByBothClasses) {
     for (const char* file : {kIn, kOut})
       appliance::writeFile(file, std::string("# local:remote\n") + row.line + "\nmodem\n");
     initialize();
-    for (const Device* end : {&kEndIn, &kEndOut}) {
-      EXPECT_EQ(shown(get(*end), "IPv4Address"), row.ipv4);
-      EXPECT_EQ(valueOf(*end, "addrAssignment"), row.assigned);
+    for (const client::Target& end : {kEndIn, kEndOut}) {
+      EXPECT_EQ(shown(end, "IPv4Address"), row.ipv4);
+      EXPECT_EQ(valueOf(end, "addrAssignment"), row.assigned);
     }
-    for (const char* id : {kPoolIn, kPoolOut}) {
-      EXPECT_EQ(shown(pool(id), "ipAddr"), row.ipAddr);
-      EXPECT_EQ(textOf(pool(id).getPropertyValue("useStaticPool")), row.useStaticPool);
+    for (const client::Target& pool : {kPoolIn, kPoolOut}) {
+      EXPECT_EQ(shown(pool, "ipAddr"), row.ipAddr);
+      EXPECT_EQ(valueOf(pool, "useStaticPool"), row.useStaticPool);
     }
   }
   EXPECT_EQ(valueOf(kEndOut, "DefaultTTL"), "00000101000001.000000+000");
   EXPECT_EQ(valueOf(kEndOut, "ReassemblyTimeout"), "00000101000001.000000+000");
   EXPECT_EQ(valueOf(kEndIn, "SubnetMask"), "255.255.255.255");
-  EXPECT_EQ(textOf(pool(kPoolIn).getPropertyValue("netMask")), "255.255.255.255");
+  EXPECT_EQ(valueOf(kPoolIn, "netMask"), "255.255.255.255");
 }
 
 // Each step runs on the state the steps before it left.
@@ -109,51 +104,48 @@ TEST_F(IPAddress, EverySetterRunsItsSetIPExLineAndRestartsItsLink) {
     Lines journal;
     Lines files;  // dial-in, dial-out, call-back address lines after the step
   };
-  const auto end = [this](const Device& d, const char* name, CIMValue v) {
-    return [=] { return modify(d, {{name, v}}); };
-  };
-  const auto poolSet = [this](const char* id, const char* name, CIMValue v) {
-    return [=] { return modifyPool(id, {{name, v}}); };
+  const auto set = [this](const client::Target& target, const char* name, CIMValue v) {
+    return [=] { return modify(target, {{name, v}}); };
   };
   const std::string in = kIn, out = kOut, cb = kCallback;
   const Step steps[] = {
       {"endpoint out address",
-       end(kEndOut, "IPv4Address", text("10.9.9.1")),
+       set(kEndOut, "IPv4Address", text("10.9.9.1")),
        joined(setIPExRead(kOut, "10.9.9.1:10.64.0.1"), kDialOutRestart),
        {"192.168.200.1:192.168.200.2", "10.9.9.1:10.64.0.1", "192.168.200.1:192.168.200.2"}},
       {"endpoint in negotiated",
-       end(kEndIn, "addrAssignment", CIMValue(true)),
+       set(kEndIn, "addrAssignment", flag(true)),
        setIPExRead(kIn, ":192.168.200.2"),
        {":192.168.200.2", "10.9.9.1:10.64.0.1", "192.168.200.1:192.168.200.2"}},
       {"endpoint in address while negotiated",
-       end(kEndIn, "IPv4Address", text("192.168.7.1")),
+       set(kEndIn, "IPv4Address", text("192.168.7.1")),
        joined(setIPExRead(kCallback, "192.168.7.1:192.168.200.2"),
               setIPExRead(kIn, ":192.168.200.2")),
        {":192.168.200.2", "10.9.9.1:10.64.0.1", "192.168.7.1:192.168.200.2"}},
       {"endpoint in fixed again",
-       end(kEndIn, "addrAssignment", CIMValue(false)),
+       set(kEndIn, "addrAssignment", flag(false)),
        setIPExRead(kIn, "192.168.7.1:192.168.200.2"),
        {"192.168.7.1:192.168.200.2", "10.9.9.1:10.64.0.1", "192.168.7.1:192.168.200.2"}},
       {"endpoint subnet mask",
-       end(kEndOut, "SubnetMask", text("255.255.255.0")),
+       set(kEndOut, "SubnetMask", text("255.255.255.0")),
        kNone,
        {"192.168.7.1:192.168.200.2", "10.9.9.1:10.64.0.1", "192.168.7.1:192.168.200.2"}},
       {"pool in address",
-       poolSet(kPoolIn, "ipAddr", text("192.168.7.2")),
+       set(kPoolIn, "ipAddr", text("192.168.7.2")),
        joined(
            {kSetIPEx + cb + " 192.168.7.1:192.168.7.2", kSetIPEx + in + " 192.168.7.1:192.168.7.2"},
            kMgettyRestart),
        {"192.168.7.1:192.168.7.2", "10.9.9.1:10.64.0.1", "192.168.7.1:192.168.7.2"}},
       {"pool in address removed",
-       poolSet(kPoolIn, "ipAddr", text("")),
+       set(kPoolIn, "ipAddr", text("")),
        joined({kSetIPEx + cb + " 192.168.7.1:", kSetIPEx + in + " 192.168.7.1:"}, kMgettyRestart),
        {"192.168.7.1:", "10.9.9.1:10.64.0.1", "192.168.7.1:"}},
       {"pool out off",
-       poolSet(kPoolOut, "useStaticPool", CIMValue(false)),
+       set(kPoolOut, "useStaticPool", flag(false)),
        joined({kSetIPEx + out + " 10.9.9.1:"}, kDialOutRestart),
        {"192.168.7.1:", "10.9.9.1:", "192.168.7.1:"}},
       {"pool out on again",
-       poolSet(kPoolOut, "useStaticPool", CIMValue(true)),
+       set(kPoolOut, "useStaticPool", flag(true)),
        joined({kSetIPEx + out + " 10.9.9.1:10.64.0.1"}, kDialOutRestart),
        {"192.168.7.1:", "10.9.9.1:10.64.0.1", "192.168.7.1:"}},
   };
@@ -192,7 +184,7 @@ TEST_F(IPAddress, InvalidAddressesLeaveEveryFileAsItWas) {
         "The length of SubnetMask must be <= 32\n"
         "#CFG_000_0004,MOF_Props_Zeph_RASIPProtocolEndpoint_SubnetMask,32#"}},
       {[&] {
-         return modifyPool(kPoolIn, {{"ipAddr", text("300.1.1.1")}});
+         return modify(kPoolIn, {{"ipAddr", text("300.1.1.1")}});
        },
        {CIMException::FAILED, "../src/Zeph_RASStaticIPAddressPoolProvider", 388, "#RAS_MODEM_12#"}},
   };
