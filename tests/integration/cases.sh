@@ -38,6 +38,11 @@ MODEM_OUT="Zeph_SoftModem.$MODEM_KEYS,DeviceID=\"SoftModemOut\""
 PORT_KEYS='SystemCreationClassName="Zeph_System",SystemName="Zeph",CreationClassName="Zeph_SerialPort"'
 PORT_IN="Zeph_SerialPort.$PORT_KEYS,DeviceId=\"DialInSerialPort\""
 PORT_OUT="Zeph_SerialPort.$PORT_KEYS,DeviceId=\"DialOutSerialPort\""
+POOL_IN='Zeph_RASStaticIPAddressPool.InstanceID="Velmar:DialInRASStaticIPAddressPool"'
+POOL_OUT='Zeph_RASStaticIPAddressPool.InstanceID="Velmar:DialOutRASStaticIPAddressPool"'
+IP_KEYS='SystemCreationClassName="Zeph_System",SystemName="Zeph",CreationClassName="Zeph_RASIPProtocolEndpoint"'
+IP_IN="Zeph_RASIPProtocolEndpoint.$IP_KEYS,Name=\"DialInEndpoint\""
+IP_OUT="Zeph_RASIPProtocolEndpoint.$IP_KEYS,Name=\"DialOutEndpoint\""
 CALLIN_VALUES='InstanceID="Velmar:Zeph_CallInSettingData",ElementName="Dial-In Configuration",LineToAnswer=1,RingsBeforeAnswer=2,AutoDisableTimer=10,AutoDisableFlag=false,DNNumber="5550142"'
 DIALOUT_VALUES='InstanceID="Velmar:Zeph_DialOutSettingData",ElementName="Dial-Out Settings",DialOutNumber="5550199",DialRetries=3,DialInterval=30,DialOutUserName="0",DialOutPassword=""'
 
@@ -233,6 +238,66 @@ case_modem_serial() {
     "$(journal)"
 }
 
+address_line() {
+  grep -v '^#' "$1" | grep ':'
+}
+
+# The address pool and the IP endpoints: both instances of each listed, the two parts of the
+# dial-out address line read, the setIPEx lines of a new local and remote address (wbemcli
+# sends the whole instance, so the boolean setter runs after the address), and refused
+# addresses changing no file.
+case_ipaddress() {
+  check "ein address pool" "$(printf '%s\n' "$HOST:$POOL_IN" "$HOST:$POOL_OUT")" \
+    "$(wbem ein Zeph_RASStaticIPAddressPool)"
+  check "ein IP endpoint" "$(printf '%s\n' "$HOST:$IP_IN" "$HOST:$IP_OUT")" \
+    "$(wbem ein Zeph_RASIPProtocolEndpoint)"
+  for class in Zeph_RASStaticIPAddressPool Zeph_RASIPProtocolEndpoint; do
+    check "ei $class named as ein" "$(wbem ein $class)" "$(wbem ei $class | cut -d' ' -f1)"
+  done
+  check "gi address pool out" \
+    "$HOST:$POOL_OUT InstanceID=\"Velmar:DialOutRASStaticIPAddressPool\",ElementName=\"IP Address Pool\",ipAddr=\"10.64.0.1\",netMask=\"255.255.255.255\",useStaticPool=true,Caption=\"\",Description=\"\",StartAddress=\"\",EndAddress=\"\",AddressType=0" \
+    "$(wbem gi "$POOL_OUT")"
+  check "gi IP endpoint out" \
+    "$HOST:$IP_OUT $IP_KEYS,Name=\"DialOutEndpoint\",ElementName=\"Local IP Address Configuration\",IPv4Address=\"10.64.0.2\",SubnetMask=\"255.255.255.255\",addrAssignment=false,Forwarding=false,DefaultTTL=00000101000001.000000+000,ReassemblyTimeout=00000101000001.000000+000" \
+    "$(wbem gi "$IP_OUT")"
+
+  restart_out=$(printf '%s\n' '/sbin/ifconfig | grep "ppp" > /tmp/ifout ' 'killall -9 chat' \
+    '/qv/etc/ppp/ppp_hup_v2k ppp')
+  journal_clear
+  wbem mi "$IP_OUT" IPv4Address=10.9.9.1
+  check "mi local address: file" "10.9.9.1:10.64.0.1" "$(address_line /qv/etc/ppp/options_dialout)"
+  check "mi local address: journal" \
+    "$(for i in 1 2; do
+      printf '%s\n\n' '/opt/etc/RasProviderScripts/setIPEx /qv/etc/ppp/options_dialout 10.9.9.1:10.64.0.1'
+      echo "$restart_out"
+    done)" \
+    "$(journal)"
+  journal_clear
+  wbem mi "$POOL_IN" ipAddr=192.168.200.9
+  check "mi remote address: files" "192.168.200.1:192.168.200.9 192.168.200.1:192.168.200.9" \
+    "$(address_line /qv/etc/ppp/options_dialin) $(address_line /qv/etc/ppp/options_callback)"
+  check "mi remote address: journal" \
+    "$(printf '%s\n' '/opt/etc/RasProviderScripts/setIPEx /qv/etc/ppp/options_callback 192.168.200.1:192.168.200.9' \
+      '/opt/etc/RasProviderScripts/setIPEx /qv/etc/ppp/options_dialin 192.168.200.1:192.168.200.9' \
+      'killall -9 mgetty' 'init q' \
+      '/opt/etc/RasProviderScripts/setIPEx /qv/etc/ppp/options_dialin 192.168.200.1:192.168.200.9' \
+      'killall -9 mgetty' 'init q')" \
+    "$(journal)"
+
+  before=$(cat /qv/etc/ppp/options_dialin /qv/etc/ppp/options_dialout /qv/etc/ppp/options_callback)
+  check "mi malformed remote address" "(1) CIM_ERR_FAILED: #RAS_MODEM_12#" \
+    "$(cim_error mi "$POOL_OUT" ipAddr=300.1.1.1)"
+  check "mi local address too long" \
+    "(4) CIM_ERR_INVALID_PARAMETER: The length of IPv4Address must be <= 32&#10;#CFG_000_0004,MOF_Props_Zeph_RASIPProtocolEndpoint_IPv4Address,32#" \
+    "$(cim_error mi "$IP_IN" IPv4Address=192.168.200.111111111111111111111111)"
+  check "mi invalid local address dropped silently" "" "$(cim_error mi "$IP_IN" IPv4Address=256.1.1.1)"
+  check "refused addresses change no file" "$before" \
+    "$(cat /qv/etc/ppp/options_dialin /qv/etc/ppp/options_dialout /qv/etc/ppp/options_callback)"
+  wbem mi "$IP_OUT" SubnetMask=255.255.255.0 >/dev/null
+  check "mi subnet mask: in memory" "SubnetMask=\"255.255.255.0\"" \
+    "$(wbem gi "$IP_OUT" | tr ',' '\n' | grep SubnetMask)"
+}
+
 # A restart (SIGHUP) unloads and reloads the module; it reads the changed files anew.
 case_restart() {
   cimom_restart
@@ -245,6 +310,8 @@ case_restart() {
     "$(wbem gi "$MODEM_IN" | tr ',' '\n' | grep ErrorControl)"
   check "serial port after restart" "FlowControl=2" \
     "$(wbem gi "$PORT_OUT" | tr ',' '\n' | grep FlowControl)"
+  check "IP endpoint after restart" "IPv4Address=\"10.9.9.1\" SubnetMask=\"255.255.255.255\"" \
+    "$(wbem gi "$IP_OUT" | tr ',' '\n' | grep -e IPv4Address -e SubnetMask | tr '\n' ' ' | sed 's/ $//')"
 }
 
 # One request of a mixed sequence: gi, ei or mi on one of the three classes.
@@ -297,6 +364,7 @@ case_reads
 case_changes
 case_ppp
 case_modem_serial
+case_ipaddress
 case_restart
 case_load
 cimom_stop
