@@ -12,6 +12,7 @@
 #include "OW_ResultHandlers.hpp"
 #include "QvlStandIn.h"
 #include "TestEnvironment.h"
+#include "Zeph_DialService.h"
 
 using namespace OpenWBEM;
 
@@ -62,8 +63,13 @@ BenchClient::~BenchClient() {
   unload();
 }
 
+// The subscription ends as it does when the CIMOM unmaps the library: otherwise the next
+// appliance reset, which rewrites the registry, would call back into the module.
 void BenchClient::unload() {
-  if (provider_) provider_->cleanup();
+  if (!provider_) return;
+  provider_->cleanup();
+  ras::stopModemStatusNotify();
+  QvlNotifySync();
   provider_ = nullptr;
 }
 

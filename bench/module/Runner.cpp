@@ -44,6 +44,7 @@ void setCounters(benchmark::State& state, const Sample& total, long prescribed) 
 
 void runRow(benchmark::State& state, const Operation& row) {
   appliance::reset();
+  QvlNotifySync();
   BenchClient client;
   bool mismatch = false;
   try {
