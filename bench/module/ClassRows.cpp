@@ -1,4 +1,4 @@
-// The rows of the six setting and device classes and of the module's initialisation, in
+// The rows of the setting, device and address classes and of the module's initialisation, in
 // the pristine appliance (no link up, the service enabled). Each prescribed count is the
 // number of command lines the design names for the operation in that state:
 //   dial-out restart, no link recorded: the ifconfig pipeline, "killall -9 chat" and the
@@ -41,6 +41,9 @@ const Target kDialOutEndpoint =
 const Target kModemIn = systemElement("Zeph_SoftModem", "DeviceID", "SoftModemIn");
 const Target kModemOut = systemElement("Zeph_SoftModem", "DeviceID", "SoftModemOut");
 const Target kPortOut = systemElement("Zeph_SerialPort", "DeviceId", "DialOutSerialPort");
+const Target kPoolOut =
+    settingData("Zeph_RASStaticIPAddressPool", "Velmar:DialOutRASStaticIPAddressPool");
+const Target kAddressOut = systemElement("Zeph_RASIPProtocolEndpoint", "Name", "DialOutEndpoint");
 
 // Enabling the service from disabled: the set opens the dial-out gate and continues its
 // script (2); the registry change makes the module's callback do the same for the dial-in
@@ -100,6 +103,16 @@ std::vector<Operation> classRows() {
       // crtscts on, xonxoff off, then the dial-out restart.
       modifyRow(kPortOut, "FlowControl=1", {{"FlowControl", CIMValue(UInt8(1))}},
                 2 + kDialOutRestart),
+
+      enumerateRow("Zeph_RASStaticIPAddressPool", 0),
+      getRow(kPoolOut, 0),
+      // setIPEx of the dial-out options' address line, then the dial-out restart.
+      modifyRow(kPoolOut, "ipAddr", {{"ipAddr", text("10.64.0.9")}}, 1 + kDialOutRestart),
+
+      enumerateRow("Zeph_RASIPProtocolEndpoint", 0),
+      getRow(kAddressOut, 0),
+      modifyRow(kAddressOut, "IPv4Address", {{"IPv4Address", text("10.64.0.3")}},
+                1 + kDialOutRestart),
   };
 }
 

@@ -33,7 +33,7 @@ Operation getRow(const Target& target, long prescribed);
 Operation modifyRow(const Target& target, const std::string& label, std::vector<Change> changes,
                     long prescribed);
 
-// The rows of the six setting and device classes and of initialisation.
+// The rows of the setting, device and address classes and of initialisation.
 std::vector<Operation> classRows();
 // The route table's series; empty while Zeph_NextHopIPRoute has no implementation.
 std::vector<Operation> routeRows();
