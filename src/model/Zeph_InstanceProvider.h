@@ -179,6 +179,29 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
                 {lines().instanceKeyMissing, lines().instanceKeyNull, lines().instanceNoInstance});
   }
 
+  // Creates the object named by the new instance's keys (absent or null keys are empty).
+  // A class whose objects are not named by their keys at creation overrides this.
+  virtual W* createFrom(const CIMInstance& newInstance) const {
+    std::array<std::string, W::kKeyCount> keys;
+    std::size_t index = 0;
+    for (const Property<W>& row : Traits::properties()) {
+      if (row.role != Role::Key) continue;
+      keys.at(index++) = keyText(row, newInstance.getPropertyValue(row.name)).value_or("");
+    }
+    try {
+      return std::apply(
+          [](const auto&... key) { return (W::getInstanceManager()->*Traits::kCreate)(key...); },
+          keys);
+    } catch (const CFG_InstanceCreationFailed&) {
+      refuseCreate();
+    }
+  }
+
+  [[noreturn]] void refuseCreate() const {
+    throwProviderError(at(lines().createRefused), OpenWBEM::CIMException::NOT_SUPPORTED,
+                       cannotCreateMessage());
+  }
+
  private:
   struct LookupLines {
     int missing;
@@ -205,24 +228,6 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
       return W::getInstanceManager()->get(key);
     } catch (const CFG_NoInstance&) {
       throwWithoutMessage(at(where.noInstance), OpenWBEM::CIMException::NOT_FOUND);
-    }
-  }
-
-  // Creates the object named by the new instance's keys (absent or null keys are empty).
-  W* createFrom(const CIMInstance& newInstance) const {
-    std::array<std::string, W::kKeyCount> keys;
-    std::size_t index = 0;
-    for (const Property<W>& row : Traits::properties()) {
-      if (row.role != Role::Key) continue;
-      keys.at(index++) = keyText(row, newInstance.getPropertyValue(row.name)).value_or("");
-    }
-    try {
-      return std::apply(
-          [](const auto&... key) { return (W::getInstanceManager()->*Traits::kCreate)(key...); },
-          keys);
-    } catch (const CFG_InstanceCreationFailed&) {
-      throwProviderError(at(lines().createRefused), OpenWBEM::CIMException::NOT_SUPPORTED,
-                         cannotCreateMessage());
     }
   }
 

@@ -4,10 +4,12 @@
 #define ZEPH_DIALOUTROUTESINSTPROVIDER_H
 
 #include "Zeph_DialOutRoutes.h"
+#include "Zeph_DialOutRoutesImpl.h"
 #include "Zeph_InstanceProvider.h"
 
 struct Zeph_DialOutRoutesTraits
     : ras::ClassTraits<Zeph_DialOutRoutes, Zeph_DialOutRoutesInstanceManager> {
+  using ImplManager = Zeph_DialOutRoutesImplInstanceManager;
   static constexpr const char* kClass = Zeph_DialOutRoutesName;
   static constexpr const char* kSource = "../src/Zeph_DialOutRoutesInstProvider";
   static constexpr auto kCreate = &Manager::createZeph_DialOutRoutes;
@@ -37,6 +39,10 @@ class Zeph_DialOutRoutesInstProvider : public ras::InstanceProvider<Zeph_DialOut
       const OpenWBEM::CIMInstance& instance) const {
     return lookup(instance);
   }
+
+ protected:
+  // Both references must name their object by InstanceID.
+  Zeph_DialOutRoutes* createFrom(const OpenWBEM::CIMInstance& newInstance) const override;
 };
 
 #endif

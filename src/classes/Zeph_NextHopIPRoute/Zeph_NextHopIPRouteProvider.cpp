@@ -1,5 +1,9 @@
-// Property table of Zeph_NextHopIPRoute: the properties in instance order, keys first in key order.
+// Property table of Zeph_NextHopIPRoute (the properties in instance order, keys first in key order)
+// and the creation of a route from its destination address.
 #include "Zeph_NextHopIPRouteProvider.h"
+
+#include "CFG_Exception.h"
+#include "OW_CIMValue.hpp"
 
 namespace {
 using X = Zeph_NextHopIPRoute;
@@ -17,6 +21,17 @@ const ras::PropertyTable<X>& Zeph_NextHopIPRouteTraits::properties() {
       Row::readonly("IfName", &X::getIfName),
   };
   return table;
+}
+
+Zeph_NextHopIPRoute* Zeph_NextHopIPRouteProvider::createFrom(
+    const OpenWBEM::CIMInstance& newInstance) const {
+  const OpenWBEM::CIMValue value = newInstance.getPropertyValue("DestinationAddress");
+  const std::string destination = value ? value.toString().c_str() : "";
+  try {
+    return X::getInstanceManager()->createZeph_NextHopIPRoute(destination);
+  } catch (const CFG_Exception&) {
+    refuseCreate();
+  }
 }
 
 template class ras::InstanceProvider<Zeph_NextHopIPRouteTraits>;
