@@ -298,6 +298,67 @@ case_ipaddress() {
     "$(wbem gi "$IP_OUT" | tr ',' '\n' | grep SubnetMask)"
 }
 
+ROUTE1='Zeph_NextHopIPRoute.InstanceID="10.1.0.0"'
+ROUTE_NEW='Zeph_NextHopIPRoute.InstanceID="10.9.0.0"'
+ROUTE_FILE=/qv/etc/ppp/ip_up_add_v2k
+
+# The count line and the array element lines of the route file.
+route_arrays() {
+  grep -E '^(declare -r NUMBER_OF_ROUTES=|	(ROUTES|NETMASK|METRIC)\[)' "$ROUTE_FILE"
+}
+
+# The InstanceIDs of the paths or instances wbemcli printed, sorted.
+instance_ids() {
+  sed -n 's/.*[.,]InstanceID="\([^"]*\)".*/\1/p' | sort | tr '\n' ' '
+}
+
+# Dial-out routes: a route created with its mask and metric appends to the three arrays and
+# its association; a changed metric edits its element; a duplicate is refused; associators
+# and references from both ends; deleting the route restores the file.
+case_routes() {
+  before=$(route_arrays)
+  check "ein routes" "10.1.0.0 172.16.0.0 " "$(wbem ein Zeph_NextHopIPRoute | instance_ids)"
+  journal_clear
+  wbem ci "$ROUTE_NEW" \
+    'InstanceID="10.9.0.0",DestinationAddress="10.9.0.0",DestinationMask="255.255.0.0",RouteMetric=3' \
+    >/dev/null
+  check "ci route: arrays" "$(printf '%s\n' 'declare -r NUMBER_OF_ROUTES="3"' \
+    '	ROUTES[0]="10.1.0.0" \' '	ROUTES[1]="172.16.0.0" \' '	ROUTES[2]="10.9.0.0"' \
+    '	NETMASK[0]="255.255.0.0" \' '	NETMASK[1]="255.240.0.0" \' '	NETMASK[2]="255.255.0.0"' \
+    '	METRIC[0]="1" \' '	METRIC[1]="5" \' '	METRIC[2]="3"')" "$(route_arrays)"
+  check "ci route: scripts" \
+    "$(printf '%s\n' '/opt/etc/RasProviderScripts/setRoute 2 10.9.0.0' \
+      '/opt/etc/RasProviderScripts/setNumRoute 3')" \
+    "$(journal | grep -x -e '.*setRoute 2 10.9.0.0' -e '.*setNumRoute 3')"
+  check "gi new route" 'DestinationMask="255.255.0.0" RouteMetric=3' \
+    "$(wbem gi "$ROUTE_NEW" | tr ',' '\n' | grep -e DestinationMask -e RouteMetric | tr '\n' ' ' |
+      sed 's/ $//')"
+  wbem mi "$ROUTE_NEW" RouteMetric=9
+  check "mi route metric" '	METRIC[2]="9"' "$(grep 'METRIC\[2\]' "$ROUTE_FILE")"
+  check "ci duplicate route" \
+    "(4) CIM_ERR_INVALID_PARAMETER: Destination Address specified already exists in the table." \
+    "$(cim_error ci "$ROUTE1" 'InstanceID="10.1.0.0",DestinationAddress="10.1.0.0"')"
+
+  check "ain from dial-out" "10.1.0.0 10.9.0.0 172.16.0.0 " \
+    "$(wbem ain "-ac Zeph_DialOutRoutes" "$DIALOUT" | instance_ids)"
+  check "ai from dial-out with roles" "10.1.0.0 10.9.0.0 172.16.0.0 " \
+    "$(wbem ai "-ac Zeph_DialOutRoutes" "-ar Antecedent" "-arr Dependent" "$DIALOUT" | instance_ids)"
+  check "ain from route" "Velmar:Zeph_DialOutSettingData " \
+    "$(wbem ain "-ac Zeph_DialOutRoutes" "$ROUTE_NEW" | instance_ids)"
+  check "ai from route" "1" \
+    "$(wbem ai "-ac Zeph_DialOutRoutes" "$ROUTE_NEW" | grep -c 'ElementName="Dial-Out Settings"')"
+  check "rin from dial-out" "3" "$(wbem rin "-ac Zeph_DialOutRoutes" "$DIALOUT" | grep -c Dependent)"
+  check "ri from route" "1" \
+    "$(wbem ri "-ac Zeph_DialOutRoutes" "$ROUTE_NEW" | grep -c '10.9.0.0')"
+
+  journal_clear
+  wbem di "$ROUTE_NEW"
+  check "di route: arrays" "$before" "$(route_arrays)"
+  check "di route: ein" "10.1.0.0 172.16.0.0 " "$(wbem ein Zeph_NextHopIPRoute | instance_ids)"
+  check "di route: association" "10.1.0.0 172.16.0.0 " \
+    "$(wbem ain "-ac Zeph_DialOutRoutes" "$DIALOUT" | instance_ids)"
+}
+
 # A restart (SIGHUP) unloads and reloads the module; it reads the changed files anew.
 case_restart() {
   cimom_restart
@@ -365,6 +426,7 @@ case_changes
 case_ppp
 case_modem_serial
 case_ipaddress
+case_routes
 case_restart
 case_load
 cimom_stop
