@@ -347,9 +347,10 @@ case_routes() {
     "$(wbem ain "-ac Zeph_DialOutRoutes" "$ROUTE_NEW" | instance_ids)"
   check "ai from route" "1" \
     "$(wbem ai "-ac Zeph_DialOutRoutes" "$ROUTE_NEW" | grep -c 'ElementName="Dial-Out Settings"')"
-  check "rin from dial-out" "3" "$(wbem rin "-ac Zeph_DialOutRoutes" "$DIALOUT" | grep -c Dependent)"
+  check "rin from dial-out" "3" \
+    "$(wbem rin "-arc Zeph_DialOutRoutes" "-ar Antecedent" "$DIALOUT" | grep -c Dependent)"
   check "ri from route" "1" \
-    "$(wbem ri "-ac Zeph_DialOutRoutes" "$ROUTE_NEW" | grep -c '10.9.0.0')"
+    "$(wbem ri "-arc Zeph_DialOutRoutes" "$ROUTE_NEW" | grep -c '10.9.0.0')"
 
   journal_clear
   wbem di "$ROUTE_NEW"

@@ -32,7 +32,7 @@ Zeph_DialOutRoutes* Zeph_DialOutRoutesInstProvider::createFrom(
             ? ras::referencedInstanceID(reference)
             : std::nullopt;
     if (!id) {
-      ras::throwProviderError({"../src/Zeph_DialOutRoutesInstProvider", 0},
+      ras::throwProviderError({Zeph_DialOutRoutesTraits::kSource, 0},
                               OpenWBEM::CIMException::INVALID_PARAMETER,
                               "Invalid reference objectPath");
     }
