@@ -213,6 +213,16 @@ TEST_F(RouteTest, DuplicateAndMalformedDestinationsAreRefusedWithTheirTexts) {
   EXPECT_TRUE(appliance::journal().empty());
 }
 
+TEST_F(RouteTest, TheCollectionLogsAFailedLookupAndEveryStep) {
+  env_->log().clear();
+  EXPECT_EQ(getFailure(route("10.9.9.9")).code, OpenWBEM::CIMException::NOT_FOUND);
+  EXPECT_TRUE(wasLogged("The hasKey value in the get operation is i\n"));
+  env_->log().clear();
+  EXPECT_EQ(routeIds().size(), 2u);
+  const Lines log = logged();
+  EXPECT_EQ(std::count(log.begin(), log.end(), "Size of Collection : \n"), 2);
+}
+
 // Sources the route file with bash: the count and the three arrays, one line each.
 Lines sourcedArrays() {
   const appliance::ToolResult result = appliance::runTool(
