@@ -16,38 +16,67 @@ namespace {
 
 enum class Quoting { None, Single, Double };
 
-bool hasAnyOf(const std::string& value, const char* chars, std::size_t count) {
-  for (std::size_t i = 0; i < count; ++i) {
-    if (value.find(chars[i]) != std::string::npos) return true;
+bool hasAnyOf(const std::string& value, const char* chars) {
+  return value.find_first_of(chars) != std::string::npos;
+}
+
+bool isControl(char c) {
+  const auto code = static_cast<unsigned char>(c);
+  return code < 0x20 || code == 0x7f;
+}
+
+// Control characters (newline, carriage return, NUL, tab, escape...) have no place in any
+// value: no quoting keeps a line break or a NUL from cutting the line.
+bool hasControl(const std::string& value) {
+  for (char c : value) {
+    if (isControl(c)) return true;
   }
   return false;
 }
 
-// Characters that no quoting context makes harmless in a single line.
-bool breaksLine(const std::string& value) {
-  return hasAnyOf(value, "\n\r\0", 3);
+// Every single-quoted slot lies in a sed expression, where "/" ends an address or an `s`
+// part, "&" stands for the match, a backslash escapes and ";" starts another command (`e`
+// runs one): only a plain word without "/" is taken there.
+bool isSedWord(const std::string& value) {
+  return isPlainShellValue(value) && value.find('/') == std::string::npos;
+}
+
+bool isDecimal(const std::string& value) {
+  std::size_t i = (!value.empty() && value[0] == '-') ? 1 : 0;
+  if (i == value.size()) return false;
+  for (; i < value.size(); ++i) {
+    if (value[i] < '0' || value[i] > '9') return false;
+  }
+  return true;
 }
 
 // The text that lands in the slot, or false when the value cannot be made safe there.
-bool safeSlotText(const CommandArg& arg, Quoting quoting, std::string& out) {
+bool safeSlotText(const CommandArg& arg, char conversion, Quoting quoting, std::string& out) {
   const std::string& value = arg.text();
-  if (arg.isNumber() || isPlainShellValue(value)) {
-    out = value;
-    return true;
-  }
-  if (breaksLine(value)) return false;
+  if (conversion == 'd' && !isDecimal(value)) return false;
+  if (hasControl(value)) return false;
   switch (quoting) {
     case Quoting::None:
       out = shellWord(value);
       return true;
     case Quoting::Single:
       out = value;
-      return value.find('\'') == std::string::npos;
+      return isSedWord(value);
     case Quoting::Double:
       out = value;
-      return !hasAnyOf(value, "\"$`\\", 4);
+      return !hasAnyOf(value, "\"$`\\");
   }
   return false;
+}
+
+// A value read from a file may keep the newline of its line when its slot ends the format:
+// the newline then only ends the command line. Returns the value without it, or as it is.
+CommandArg withoutFinalNewline(const CommandArg& arg, const char* rest, Quoting quoting) {
+  const std::string& value = arg.text();
+  if (*rest != '\0' || quoting != Quoting::None || value.empty() || value.back() != '\n') {
+    return arg;
+  }
+  return CommandArg(value.substr(0, value.size() - 1));
 }
 
 // Follows the shell's quoting through one format character; returns how many characters
@@ -81,9 +110,12 @@ bool fillFormat(const char* format, std::initializer_list<CommandArg> args, std:
       continue;
     }
     if ((p[1] != 's' && p[1] != 'd') || next == args.end()) return false;
+    const CommandArg& arg = *next++;
+    const CommandArg value = withoutFinalNewline(arg, p + 2, quoting);
     std::string slot;
-    if (!safeSlotText(*next++, quoting, slot)) return false;
+    if (!safeSlotText(value, p[1], quoting, slot)) return false;
     out += slot;
+    if (value.text().size() != arg.text().size()) out += '\n';
     p += 2;
   }
   return next == args.end();

@@ -29,8 +29,11 @@ class CommandArg {
 // A command line built from a format and its values. The format knows only %s, %d and %%.
 // A value with only ordinary characters lands as it is, so documented command lines stay
 // byte for byte the same. Otherwise, outside quotes it becomes one single-quoted shell word;
-// inside quotes of the format, or with a newline anywhere, the command is refused. A command
-// that would not fit the 1024-byte buffer the appliance's tools were written for is refused too.
+// inside double quotes it is refused if it holds `"`, `$`, a backquote or a backslash; inside
+// single quotes (always a sed expression) it is refused unless it is plain and has no "/".
+// A control character anywhere is refused (one trailing newline excepted, when its slot ends
+// the format), and so is a %d value that is not a decimal number. A command that would not
+// fit the 1024-byte buffer the appliance's tools were written for is refused too.
 class ShellCommand {
  public:
   ShellCommand(const char* format, std::initializer_list<CommandArg> args);

@@ -19,8 +19,18 @@ TEST(CommandRunnerTest, ValuesLandAsTheyAreAsOneQuotedWordOrNotAtAll) {
   } rows[] = {
       {{"%s -s CONT %s\n", {"/usr/bin/killall", "ppp_add_v2k"}},
        "/usr/bin/killall -s CONT ppp_add_v2k\n"},
-      {{sed, {"/bin/sed", "0,,12 *", "/f"}}, "/bin/sed -i 's/^x=.*/x=\"0,,12 *\"/' /f"},
+      {{sed, {"/bin/sed", "0,,12:a@b+=c", "/f"}}, "/bin/sed -i 's/^x=.*/x=\"0,,12:a@b+=c\"/' /f"},
       {{sed, {"/bin/sed", "1'; reboot; '", "/f"}}, ""},
+      {{sed, {"/bin/sed", "1/e reboot", "/f"}}, ""},  // would end the s part
+      {{sed, {"/bin/sed", "$(id)", "/f"}}, ""},       // inert to sed, not to a sourcing script
+      {{sed, {"/bin/sed", "a\\", "/f"}}, ""},
+      {{except, {"ppp0\\"}}, ""},  // would escape the closing quote
+      {{"%s %s", {"/hup", "ppp0\rreboot"}}, ""},
+      {{"%s %s", {"/hup", "ppp0\treboot"}}, ""},
+      {{"%s %s:%s", {"/set", "a", "b\n"}}, "/set a:b\n"},  // a file line's own newline
+      {{"%s %s:%s ", {"/set", "a", "b\n"}}, ""},
+      {{"%s %d", {"/x", "7;reboot"}}, ""},
+      {{"%s %d", {"/x", "-12"}}, "/x -12"},
       {{except, {"ppp 0"}}, "grep -v \"ppp 0\" > /tmp/ifout "},
       {{except, {"ppp$(reboot)"}}, ""},
       {{"%s %s", {"/hup", "ppp0;reboot"}}, "/hup 'ppp0;reboot'"},
