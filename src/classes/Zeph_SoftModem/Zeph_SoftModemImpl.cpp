@@ -92,10 +92,11 @@ std::string callingSpeedFormat() {
   return std::string(kCallSpeed.declaration) + "=\"" + calling(kSpeedLetter) + "%d\"";
 }
 
-// `sed -i '/^declaration=/ c declaration="%s"' %s`, with the code and the connect script.
+// `sed -i '/^declaration=/ c declaration="&%s"' %s`, with the code and the connect script;
+// the "&" belongs to the format, so the value in the sed expression is a plain word.
 std::string callingEditFormat(const ModemOption& option) {
   const std::string declaration = option.declaration;
-  return "sed -i '/^" + declaration + "=/ c " + declaration + "=\"%s\"' %s";
+  return "sed -i '/^" + declaration + "=/ c " + declaration + "=\"" + kCallingPrefix + "%s\"' %s";
 }
 
 void writeModemCode(const ModemOption& option, const std::string& code) {
@@ -233,7 +234,7 @@ int Zeph_SoftModemImpl::setErrorControl(bool value) {
     restartAnswering(kLogErrorControlMgetty);
   } else if (own == Role::Calling) {
     platformLogDebug(kLogErrorControlDialOut);
-    writeCallingCode(kErrorControl, calling(code));
+    writeCallingCode(kErrorControl, code);
     restartCalling(kLogErrorControlDialOutRestart);
   }
   errorControl_ = value;
@@ -255,7 +256,7 @@ int Zeph_SoftModemImpl::setCallSpeed(unsigned char value) {
     platformLogDebug(kLogSpeedDialIn);
     restartAnswering(kLogSpeedMgetty);
   } else if (own == Role::Calling) {
-    writeCallingCode(kCallSpeed, kCallingPrefix + speedCode(value));
+    writeCallingCode(kCallSpeed, speedCode(value));
     platformLogDebug(formatText(kLogSpeed, value));
     platformLogDebug(kLogSpeedDialOut);
     restartCalling(kLogSpeedDialOutRestart);
@@ -279,7 +280,7 @@ int Zeph_SoftModemImpl::setCompression(bool value) {
     restartAnswering(kLogCompressionMgetty);
   } else if (own == Role::Calling) {
     platformLogDebug(kLogCompressionDialOut);
-    writeCallingCode(kCompression, calling(code));
+    writeCallingCode(kCompression, code);
     restartCalling(kLogCompressionDialOutRestart);
   }
   compression_ = value;
