@@ -129,10 +129,23 @@ void appendQualifier(ras::Qualifiers& qualifiers, const char* name,
 }
 
 // The user-name setter's index as atoi reads it, or -1 when it names no entry of the list.
+// The index is kept and later handed to addPassword, the account name lands in the pppd
+// options: both must be plain words, or a client could smuggle text into those files.
 long userIndex(const std::string& text) {
+  if (!ras::isPlainShellValue(text)) return -1;
   const long index = std::strtol(text.c_str(), nullptr, 10);
   if (index < 0 || index >= static_cast<long>(UserNames.size())) return -1;
+  if (!ras::isPlainShellValue(UserNames[index])) return -1;
   return index;
+}
+
+// A secret is stored between double quotes of a tab-separated secrets line.
+bool isStorableSecret(const std::string& text) {
+  for (char c : text) {
+    const auto code = static_cast<unsigned char>(c);
+    if (c == '"' || c == '\\' || code < 0x20 || code == 0x7f) return false;
+  }
+  return true;
 }
 
 }  // namespace
@@ -255,6 +268,7 @@ int Zeph_DialOutSettingDataImpl::getDialOutPassword(std::string& value, ras::Qua
 }
 
 int Zeph_DialOutSettingDataImpl::setDialOutPassword(std::string value) {
+  if (!isStorableSecret(value)) return ras::kStatusInvalidValue;
   for (const char* secrets : {kPapSecrets, kChapSecrets}) {
     runCommand(kCmdAddPassword, {kAddPasswordScript, userName_, password_, value, secrets});
   }
