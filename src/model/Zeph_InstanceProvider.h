@@ -169,7 +169,11 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
     }
   }
 
+  // A path with keys the class does not have names no instance of it.
   W* lookup(const CIMObjectPath& path) const {
+    if (path.getKeys().size() > W::kKeyCount) {
+      throwWithoutMessage(at(lines().pathNoInstance), OpenWBEM::CIMException::NOT_FOUND);
+    }
     return find([&](const char* name) { return path.getKey(name); },
                 {lines().pathKeyMissing, lines().pathKeyNull, lines().pathNoInstance});
   }
@@ -255,7 +259,9 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
 
   void apply(W& object, const Property<W>& row, const OpenWBEM::CIMValue& value) const {
     const int status =
-        writeValue(row, object, value, [&](const auto& typed) { check(row, typed); });
+        hasRowType(row, value)
+            ? writeValue(row, object, value, [&](const auto& typed) { check(row, typed); })
+            : kStatusInvalidValue;
     if (status == kStatusInvalidValue) {
       throwProviderError(at(lines().invalidValue), OpenWBEM::CIMException::INVALID_PARAMETER,
                          invalidValueMessage(Traits::kClass));

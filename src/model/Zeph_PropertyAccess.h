@@ -7,6 +7,7 @@
 #include <string>
 #include <variant>
 
+#include "OW_CIMDataType.hpp"
 #include "OW_CIMValue.hpp"
 #include "Zeph_CimValues.h"
 #include "Zeph_Property.h"
@@ -50,6 +51,28 @@ int writeValue(const Property<W>& row, W& object, const OpenWBEM::CIMValue& valu
         return (object.*access.set)(typed);
       },
       row.access);
+}
+
+// True when a non-null `value` has the row's CIM type; a CIMOM converts a client's value
+// to the class's type, anything else reaching a setter is a malformed request.
+template <class W>
+bool hasRowType(const Property<W>& row, const OpenWBEM::CIMValue& value) {
+  if (value.isArray()) return false;
+  switch (row.type) {
+    case CimType::String:
+      return value.getType() == OpenWBEM::CIMDataType::STRING;
+    case CimType::UInt16:
+      return value.getType() == OpenWBEM::CIMDataType::UINT16;
+    case CimType::UInt8:
+      return value.getType() == OpenWBEM::CIMDataType::UINT8;
+    case CimType::Boolean:
+      return value.getType() == OpenWBEM::CIMDataType::BOOLEAN;
+    case CimType::DateTime:
+      return value.getType() == OpenWBEM::CIMDataType::DATETIME;
+    case CimType::Reference:
+      return value.getType() == OpenWBEM::CIMDataType::REFERENCE;
+  }
+  return false;
 }
 
 // The text of a key value; nothing if the value (or a referenced InstanceID) is null.
