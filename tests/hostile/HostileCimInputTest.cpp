@@ -1,0 +1,141 @@
+// Malformed requests on every implemented class: each is a CIM error with a code that says
+// what was wrong, nothing crashes, and no file changes and no command runs.
+#include <gmock/gmock.h>
+
+#include <functional>
+
+#include "ClientFixture.h"
+#include "MofSchema.hpp"
+
+namespace {
+
+using OpenWBEM::CIMException;
+
+const Target* const kTargets[] = {&kCallIn, &kDialOut, &kService, &kPppOut, &kModemOut, &kPortIn};
+
+const std::string kLong(10 * 1024, '7');
+
+// A value of another CIM type than the property's.
+OpenWBEM::CIMValue wronglyTyped(const rascim::MofProperty& property) {
+  if (property.type.name == "string") return OpenWBEM::CIMValue(OpenWBEM::UInt32(5));
+  return text(property.type.name == "boolean" ? "true" : "5");
+}
+
+bool isWritable(const rascim::MofProperty& property) {
+  for (const auto& qualifier : property.qualifiers) {
+    if (rascim::equalsIgnoreCase(qualifier.name, "Write")) return true;
+  }
+  return false;
+}
+
+const rascim::MofClass& mofClass(const char* name) {
+  static const rascim::MofSchema schema = [] {
+    rascim::MofSchema loaded;
+    loaded.load(RAS_MOF_DIR);
+    return loaded;
+  }();
+  return *schema.findClass(name);
+}
+
+class HostileCimInput : public ClientTest {
+ protected:
+  struct Row {
+    std::string what;
+    std::function<CimFailure()> request;
+    int code;  // -1: the request is served and changes nothing
+  };
+
+  std::vector<Row> rowsFor(const Target& target) {
+    std::vector<Row> rows;
+    const std::string name = target.className;
+    const auto path = [this, &target] { return pathOf(target); };
+    rows.push_back({name + " gi without a key",
+                    [=] {
+                      auto p = path();
+                      auto keys = p.getKeys();
+                      keys.pop_back();
+                      p.setKeys(keys);
+                      return getFailure(p);
+                    },
+                    CIMException::NOT_FOUND});
+    rows.push_back({name + " gi with a null key",
+                    [=] {
+                      auto p = path();
+                      auto keys = p.getKeys();
+                      keys.back() = OpenWBEM::CIMProperty(target.keys.back().first);
+                      p.setKeys(keys);
+                      return getFailure(p);
+                    },
+                    CIMException::NOT_FOUND});
+    rows.push_back({name + " gi with an extra key",
+                    [=] {
+                      auto p = path();
+                      p.setKeyValue("Bogus", text("x"));
+                      return getFailure(p);
+                    },
+                    CIMException::NOT_FOUND});
+    for (const OpenWBEM::CIMValue& key :
+         {text(""), text(kLong), OpenWBEM::CIMValue(OpenWBEM::UInt16(1))}) {
+      rows.push_back({name + " gi with key " + std::string(key.toString().c_str()).substr(0, 8),
+                      [=] {
+                        auto p = path();
+                        p.setKeyValue(target.keys.back().first, key);
+                        return getFailure(p);
+                      },
+                      CIMException::NOT_FOUND});
+    }
+    rows.push_back({name + " cm unknown", [=] { return invoke(target, "Reboot"); },
+                    CIMException::METHOD_NOT_FOUND});
+    // Unknown and null properties are skipped as the modify sequence prescribes.
+    rows.push_back({name + " mi unknown property",
+                    [=] {
+                      return modifyTarget(target, {{"Reboot", text("now")}});
+                    },
+                    -1});
+    for (const rascim::MofProperty& property : mofClass(target.className).properties) {
+      if (!isWritable(property)) continue;
+      const std::string prop = name + "." + property.name;
+      const std::vector<Change> wrong = {{property.name, wronglyTyped(property)}};
+      const std::vector<Change> array = {
+          {property.name, OpenWBEM::CIMValue(OpenWBEM::StringArray(1, "1"))}};
+      const std::vector<Change> null = {{property.name, OpenWBEM::CIMValue(OpenWBEM::CIMNULL)}};
+      rows.push_back({prop + " wrongly typed", [=] { return modifyTarget(target, wrong); },
+                      CIMException::INVALID_PARAMETER});
+      rows.push_back({prop + " array", [=] { return modifyTarget(target, array); },
+                      CIMException::INVALID_PARAMETER});
+      rows.push_back({prop + " null", [=] { return modifyTarget(target, null); }, -1});
+      if (property.type.name == "string") {
+        const std::vector<Change> huge = {{property.name, text(kLong)}};
+        rows.push_back({prop + " 10 KB", [=] { return modifyTarget(target, huge); },
+                        CIMException::INVALID_PARAMETER});
+      }
+    }
+    return rows;
+  }
+};
+
+TEST_F(HostileCimInput, EveryMalformedRequestIsACimErrorThatChangesNothing) {
+  std::vector<Row> rows;
+  for (const Target* target : kTargets) {
+    for (Row& row : rowsFor(*target)) rows.push_back(std::move(row));
+  }
+  rows.push_back(
+      {"gi of an unknown class",
+       [this] { return getFailure(OpenWBEM::CIMObjectPath(OpenWBEM::CIMName("Zeph_Bogus"), kNs)); },
+       CIMException::INVALID_CLASS});
+  get();  // the account list, so that a user-name index would be taken if it got through
+  const auto before = editedFiles();
+  for (const Row& row : rows) {
+    appliance::clearJournal();
+    try {
+      EXPECT_EQ(row.request().code, row.code) << row.what;
+    } catch (const std::exception& e) {
+      ADD_FAILURE() << row.what << ": not a CIM error: " << e.what();
+    }
+    EXPECT_THAT(appliance::journal(), testing::IsEmpty()) << row.what;
+    EXPECT_EQ(editedFiles(), before) << row.what;
+  }
+  EXPECT_GT(rows.size(), 60u);
+}
+
+}  // namespace
