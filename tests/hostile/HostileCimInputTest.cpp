@@ -4,14 +4,15 @@
 
 #include <functional>
 
-#include "ClientFixture.h"
+#include "HostileFixture.h"
 #include "MofSchema.hpp"
 
 namespace {
 
 using OpenWBEM::CIMException;
 
-const Target* const kTargets[] = {&kCallIn, &kDialOut, &kService, &kPppOut, &kModemOut, &kPortIn};
+const client::Target* const kTargets[] = {&kCallIn, &kDialOut,  &kService,
+                                          &kPppOut, &kModemOut, &kPortIn};
 
 const std::string kLong(10 * 1024, '7');
 
@@ -37,7 +38,7 @@ const rascim::MofClass& mofClass(const char* name) {
   return *schema.findClass(name);
 }
 
-class HostileCimInput : public ClientTest {
+class HostileCimInput : public HostileTest {
  protected:
   struct Row {
     std::string what;
@@ -45,10 +46,10 @@ class HostileCimInput : public ClientTest {
     int code;  // -1: the request is served and changes nothing
   };
 
-  std::vector<Row> rowsFor(const Target& target) {
+  std::vector<Row> rowsFor(const client::Target& target) {
     std::vector<Row> rows;
     const std::string name = target.className;
-    const auto path = [this, &target] { return pathOf(target); };
+    const auto path = [&target] { return target.path(); };
     rows.push_back({name + " gi without a key",
                     [=] {
                       auto p = path();
@@ -62,7 +63,7 @@ class HostileCimInput : public ClientTest {
                     [=] {
                       auto p = path();
                       auto keys = p.getKeys();
-                      keys.back() = OpenWBEM::CIMProperty(target.keys.back().first);
+                      keys.back() = OpenWBEM::CIMProperty(target.keys.back().first.c_str());
                       p.setKeys(keys);
                       return getFailure(p);
                     },
@@ -79,34 +80,34 @@ class HostileCimInput : public ClientTest {
       rows.push_back({name + " gi with key " + std::string(key.toString().c_str()).substr(0, 8),
                       [=] {
                         auto p = path();
-                        p.setKeyValue(target.keys.back().first, key);
+                        p.setKeyValue(target.keys.back().first.c_str(), key);
                         return getFailure(p);
                       },
                       CIMException::NOT_FOUND});
     }
-    rows.push_back({name + " cm unknown", [=] { return invoke(target, "Reboot"); },
+    rows.push_back({name + " cm unknown", [=] { return invoke(target, "Reboot").second; },
                     CIMException::METHOD_NOT_FOUND});
     // Unknown and null properties are skipped as the modify sequence prescribes.
     rows.push_back({name + " mi unknown property",
                     [=] {
-                      return modifyTarget(target, {{"Reboot", text("now")}});
+                      return modify(target, {{"Reboot", text("now")}});
                     },
                     -1});
-    for (const rascim::MofProperty& property : mofClass(target.className).properties) {
+    for (const rascim::MofProperty& property : mofClass(target.className.c_str()).properties) {
       if (!isWritable(property)) continue;
       const std::string prop = name + "." + property.name;
       const std::vector<Change> wrong = {{property.name, wronglyTyped(property)}};
       const std::vector<Change> array = {
           {property.name, OpenWBEM::CIMValue(OpenWBEM::StringArray(1, "1"))}};
       const std::vector<Change> null = {{property.name, OpenWBEM::CIMValue(OpenWBEM::CIMNULL)}};
-      rows.push_back({prop + " wrongly typed", [=] { return modifyTarget(target, wrong); },
+      rows.push_back({prop + " wrongly typed", [=] { return modify(target, wrong); },
                       CIMException::INVALID_PARAMETER});
-      rows.push_back({prop + " array", [=] { return modifyTarget(target, array); },
+      rows.push_back({prop + " array", [=] { return modify(target, array); },
                       CIMException::INVALID_PARAMETER});
-      rows.push_back({prop + " null", [=] { return modifyTarget(target, null); }, -1});
+      rows.push_back({prop + " null", [=] { return modify(target, null); }, -1});
       if (property.type.name == "string") {
         const std::vector<Change> huge = {{property.name, text(kLong)}};
-        rows.push_back({prop + " 10 KB", [=] { return modifyTarget(target, huge); },
+        rows.push_back({prop + " 10 KB", [=] { return modify(target, huge); },
                         CIMException::INVALID_PARAMETER});
       }
     }
@@ -116,7 +117,7 @@ class HostileCimInput : public ClientTest {
 
 TEST_F(HostileCimInput, EveryMalformedRequestIsACimErrorThatChangesNothing) {
   std::vector<Row> rows;
-  for (const Target* target : kTargets) {
+  for (const client::Target* target : kTargets) {
     for (Row& row : rowsFor(*target)) rows.push_back(std::move(row));
   }
   rows.push_back(

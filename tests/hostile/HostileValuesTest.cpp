@@ -3,7 +3,7 @@
 // hold the value as inert text, and a refused value is a CIM error that changes nothing.
 #include <gmock/gmock.h>
 
-#include "ClientFixture.h"
+#include "HostileFixture.h"
 #include "Zeph_CommandRunner.h"
 
 namespace {
@@ -33,7 +33,7 @@ bool storableSecret(const std::string& value) {
 }
 
 struct Slot {
-  const Target* target;
+  const client::Target* target;
   const char* property;
   bool acceptsSecrets;  // true: a storable value is passed as one quoted word
 };
@@ -44,7 +44,7 @@ const Slot kSlots[] = {
     {&kPortOut, "Name", false},
 };
 
-class HostileValues : public ClientTest {
+class HostileValues : public HostileTest {
  protected:
   // Nothing ran the payload, and every journal line that carries it carries it as one word.
   void expectInert(const std::string& value, const std::string& label) {
@@ -66,7 +66,7 @@ TEST_F(HostileValues, ClientValuesAreRefusedOrPassedAsOneWord) {
       get();  // the account list that the user-name setter indexes
       const auto before = editedFiles();
       appliance::clearJournal();
-      const CimFailure failure = modifyTarget(*slot.target, {{slot.property, text(value)}});
+      const CimFailure failure = modify(*slot.target, {{slot.property, text(value)}});
       expectInert(value, label);
       if (slot.acceptsSecrets && storableSecret(value)) {
         EXPECT_EQ(failure, CimFailure{}) << label;
@@ -105,7 +105,7 @@ TEST_F(HostileValues, ValuesFromTheCimomAndFilesNeverRun) {
     // A dial-in link's interface: the dial-out one is looked for among the others.
     appliance::writeFile("/qv/etc/ppp/ppp_active_if_file", "DIN\nppp" + value + "\n");
     appliance::clearJournal();
-    EXPECT_EQ(modifyTarget(kService, {{"modemStatus", OpenWBEM::CIMValue(false)}}), CimFailure{});
+    EXPECT_EQ(modify(kService, {{"modemStatus", client::flag(false)}}), CimFailure{});
     EXPECT_FALSE(appliance::fileExists(kMarker)) << value;
     EXPECT_THAT(appliance::journal(), testing::Contains(testing::HasSubstr("ppp_hup_v2k")));
   }
