@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "Zeph_CommandRunner.h"
 #include "Zeph_PlatformLog.h"
 #include "Zeph_Registry.h"
 #include "Zeph_TextFormat.h"
@@ -162,4 +163,9 @@ int reverse(char* text) {
     text[j] = c;
   }
   return length;
+}
+
+bool ras::isSettableAddress(const std::string& address) {
+  std::string copy = address;
+  return IsIPValid(copy.data()) == 1 && isPlainShellValue(address);
 }

@@ -111,4 +111,39 @@ TEST_F(HostileValues, ValuesFromTheCimomAndFilesNeverRun) {
   }
 }
 
+// Addresses that pass the lenient address check (nothing after the fourth token is looked at)
+// but carry a payload: the pool refuses them as malformed, the endpoint drops them silently, a
+// route is not created; nothing runs and no file changes.
+TEST_F(HostileValues, AddressesWithAPayloadAfterTheFourthTokenChangeNothing) {
+  const client::Target pool =
+      client::settingData("Zeph_RASStaticIPAddressPool", "Velmar:DialOutRASStaticIPAddressPool");
+  const client::Target endpoint =
+      client::systemElement("Zeph_RASIPProtocolEndpoint", "Name", "DialOutEndpoint");
+  for (const std::string& payload : kCorpus) {
+    const std::string value = "10.0.0.9." + payload;
+    const auto before = editedFiles();
+    const std::string routes = appliance::readFile("/qv/etc/ppp/ip_up_add_v2k");
+    appliance::clearJournal();
+    // Past the properties' 32 characters the length check refuses first.
+    const auto refused =
+        testing::AnyOf(OpenWBEM::CIMException::FAILED, OpenWBEM::CIMException::INVALID_PARAMETER);
+    EXPECT_THAT(modify(pool, {{"ipAddr", text(value)}}).code, refused) << value;
+    EXPECT_THAT(modify(endpoint, {{"IPv4Address", text(value)}}).code,
+                testing::AnyOf(-1, OpenWBEM::CIMException::INVALID_PARAMETER))
+        << value;
+    OpenWBEM::CIMInstance route("Zeph_NextHopIPRoute");
+    route.setProperty("InstanceID", text(value));
+    route.setProperty("DestinationAddress", text(value));
+    EXPECT_EQ(cimFailureOf([&] {
+                call([&](const auto& env) { provider_->createInstance(env, kNs, route); });
+              }).code,
+              OpenWBEM::CIMException::FAILED)
+        << value;
+    EXPECT_FALSE(appliance::fileExists(kMarker)) << value;
+    EXPECT_THAT(appliance::journal(), testing::IsEmpty()) << value;
+    EXPECT_EQ(editedFiles(), before) << value;
+    EXPECT_EQ(appliance::readFile("/qv/etc/ppp/ip_up_add_v2k"), routes) << value;
+  }
+}
+
 }  // namespace

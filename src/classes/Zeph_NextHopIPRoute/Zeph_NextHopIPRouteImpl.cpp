@@ -119,18 +119,12 @@ bool writeElement(const ElementSetter& setter, int index, const CommandArg& valu
   return append;
 }
 
-bool isAddress(const std::string& text) {
-  std::vector<char> copy(text.begin(), text.end());
-  copy.push_back('\0');
-  return IsIPValid(copy.data()) != 0;
-}
-
 }  // namespace
 
 Zeph_NextHopIPRouteImpl::Zeph_NextHopIPRouteImpl(const std::string& destination)
     : Zeph_NextHopIPRoute(destination) {
   platformLogDebug(kLogLoad);
-  if (!isAddress(destination)) fail(kInvalidAddress);
+  if (!isSettableAddress(destination)) fail(kInvalidAddress);
   destinationMask_ = kHostMask;
   ifName_ = kLoadedIfName;
 }
@@ -138,7 +132,7 @@ Zeph_NextHopIPRouteImpl::Zeph_NextHopIPRouteImpl(const std::string& destination)
 Zeph_NextHopIPRouteImpl::Zeph_NextHopIPRouteImpl(const std::string& destination, int index)
     : Zeph_NextHopIPRoute(destination) {
   platformLogDebug(formatText(kLogCreate, index));
-  if (!isAddress(destination)) fail(kInvalidAddress);
+  if (!isSettableAddress(destination)) fail(kInvalidAddress);
   index_ = index;
   destinationMask_ = kHostMask;
   const std::string probe = formatText(kRouteProbe, index, destination.c_str());

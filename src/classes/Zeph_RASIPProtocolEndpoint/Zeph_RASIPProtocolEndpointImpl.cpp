@@ -35,10 +35,6 @@ void logAddressLine(const char* localLabel, const AddressLine& line) {
   platformLogDebug(line.remote);
 }
 
-bool isAddress(std::string value) {
-  return IsIPValid(value.data()) == 1;
-}
-
 }  // namespace
 
 Zeph_RASIPProtocolEndpointImpl::Zeph_RASIPProtocolEndpointImpl(
@@ -80,7 +76,7 @@ int Zeph_RASIPProtocolEndpointImpl::getIPv4Address(std::string& value,
 // While the address is negotiated the line keeps an empty local part and the address is only
 // remembered; the call-back link takes it at once either way.
 int Zeph_RASIPProtocolEndpointImpl::setIPv4Address(std::string value) {
-  if (value.empty() || !isAddress(value)) return kStatusOk;
+  if (value.empty() || !isSettableAddress(value)) return kStatusOk;
   platformLogDebug(kTraceSetIPv4Address);
   if (dialIn()) {
     const AddressLine callback = readAddressLine(kCallbackOptions);

@@ -38,10 +38,6 @@ void logAddressLine(const char* localLabel, const char* remoteLabel, const Addre
   platformLogDebug(line.remote);
 }
 
-bool isAddress(std::string value) {
-  return IsIPValid(value.data()) == 1;
-}
-
 }  // namespace
 
 Zeph_RASStaticIPAddressPoolImpl::Zeph_RASStaticIPAddressPoolImpl(const std::string& instanceID)
@@ -95,7 +91,7 @@ int Zeph_RASStaticIPAddressPoolImpl::getipAddr(std::string& value, Qualifiers& q
 // The address is written even while no static address is handed out.
 int Zeph_RASStaticIPAddressPoolImpl::setipAddr(std::string value) {
   platformLogDebug(kTraceSetipAddr);
-  if (!value.empty() && !isAddress(value)) return kStatusMalformedAddress;
+  if (!value.empty() && !isSettableAddress(value)) return kStatusMalformedAddress;
   if (dialIn()) {
     const AddressLine callback = readAddressLine(kCallbackOptions);
     setAddressLine(kCallbackOptions, callback.local, value);
