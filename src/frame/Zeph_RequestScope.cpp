@@ -1,12 +1,17 @@
 // The request lock and the per-thread current CIMOM handle behind `hdl`.
 #include "Zeph_RequestScope.h"
 
+#include <chrono>
 #include <stdexcept>
 
 namespace ras {
 namespace {
 
-std::recursive_mutex requestLock;
+std::recursive_timed_mutex requestLock;
+std::atomic<int> subscriptionsEnding{0};
+
+// How long a waiting callback sleeps between looks at whether its subscription is ending.
+constexpr std::chrono::milliseconds kCallbackRetry{5};
 
 // A plain pointer, so that no thread-exit destructor pins the module in memory; the
 // reference that keeps the handle alive is the RequestScope's.
@@ -32,6 +37,20 @@ RequestScope::RequestScope(const OpenWBEM::ProviderEnvironmentIFCRef& env)
 
 RequestScope::~RequestScope() {
   currentHandle = previous_;
+}
+
+CallbackScope::CallbackScope() : lock_(requestLock, std::defer_lock) {
+  while (!lock_.try_lock_for(kCallbackRetry)) {
+    if (subscriptionsEnding.load() > 0) return;
+  }
+}
+
+SubscriptionEnding::SubscriptionEnding() {
+  ++subscriptionsEnding;
+}
+
+SubscriptionEnding::~SubscriptionEnding() {
+  --subscriptionsEnding;
 }
 
 }  // namespace ras

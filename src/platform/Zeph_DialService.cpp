@@ -8,6 +8,7 @@
 #include "Zeph_ModuleGlobals.h"
 #include "Zeph_PlatformLog.h"
 #include "Zeph_Registry.h"
+#include "Zeph_RequestScope.h"
 
 using namespace ras;
 
@@ -91,6 +92,8 @@ void ras::resumeDialIn() {
 }
 
 void remove_ppp_link(unsigned long) {
+  const CallbackScope callback;
+  if (!callback.entered()) return;
   platformLogDebug(kLogCallback);
   std::string status;
   if (!readModemRegistry(kRegModemStatus, status)) return;
@@ -129,6 +132,7 @@ int ras::startModemStatusNotify() {
 
 void ras::stopModemStatusNotify() {
   if (handle == -1) return;
+  const SubscriptionEnding ending;
   QvlNotifyRegChangeStop(handle);
   handle = -1;
 }
