@@ -12,12 +12,17 @@ CIMOM_USER=ras
 CIMOM_PASSWORD=ras-test
 CIMOM_NS=root/cimv2
 
+# CIMOM_PRELOAD: libraries to preload into the CIMOM (a platform library that stays loaded
+# when the module is unloaded). CIMOM_PROV_TTL: idle minutes before a provider is unloaded
+# (-1: never). CIMOM_EXTRA_PROVIDERS: more provider libraries for the provider directory.
 cimom_env() {
-  env LD_LIBRARY_PATH="$OW_PREFIX/lib:$RAS_PLATFORM_LIBDIR" "$@"
+  env LD_LIBRARY_PATH="$OW_PREFIX/lib:$RAS_PLATFORM_LIBDIR" \
+    ${CIMOM_PRELOAD:+"LD_PRELOAD=$CIMOM_PRELOAD"} "$@"
 }
 
 # The configuration: loopback only, simple authentication, no indications, the module the
-# only library of the provider directory and never unloaded.
+# only library of the provider directory and never unloaded (unless the variables above say
+# otherwise).
 cimom_write_config() {
   lib=$OW_PREFIX/lib
   cat >"$CIMOM_DIR/openwbem.conf" <<CONF
@@ -41,7 +46,7 @@ owcimomd.libexecdir = $OW_PREFIX/libexec/openwbem
 owcimomd.drop_root_privileges = false
 owcimomd.disable_indications = true
 cppprovifc.prov_location = $CIMOM_DIR/providers
-cppprovifc.prov_TTL = -1
+cppprovifc.prov_TTL = ${CIMOM_PROV_TTL:--1}
 log.main.type = file
 log.main.location = $CIMOM_DIR/owcimomd.log
 log.main.level = ${CIMOM_LOG_LEVEL:-ERROR}
@@ -71,6 +76,9 @@ cimom_load_schema() {
 cimom_start() {
   mkdir -p "$CIMOM_DIR/providers" "$CIMOM_DIR/repository"
   ln -sf "$RAS_MODULE" "$CIMOM_DIR/providers/libZeph_RASProvider.so"
+  for provider in ${CIMOM_EXTRA_PROVIDERS:-}; do
+    ln -sf "$provider" "$CIMOM_DIR/providers/"
+  done
   cimom_write_config
   cimom_load_schema || { cat "$CIMOM_DIR/owmofc.log" >&2; return 1; }
   cimom_env "$OW_PREFIX/sbin/owcimomd" -d -c "$CIMOM_DIR/openwbem.conf" \
