@@ -8,20 +8,16 @@
 #include <thread>
 #include <vector>
 
-#include "ApplianceTest.h"
-#include "CimFailure.h"
-#include "OW_CIMClass.hpp"
-#include "OW_CIMInstance.hpp"
-#include "OW_CIMValue.hpp"
+#include "ClientFixture.h"
 #include "QvlShared.h"
-#include "QvlStandIn.h"
-#include "TestEnvironment.h"
-#include "Zeph_ModuleGlobals.h"
-#include "Zeph_RASProvider.h"
 
 namespace {
 
-using Lines = std::vector<std::string>;
+using client::ClientTest;
+using client::Lines;
+using client::settingData;
+using client::Target;
+using client::u16;
 
 constexpr char kDialIn[] = "/qv/etc/ppp/mgetty_v2k";
 constexpr char kDialOut[] = "/qv/etc/ppp/ppp_add_v2k";
@@ -53,28 +49,9 @@ std::string lineStartingWith(const char* script, const std::string& prefix) {
   return "";
 }
 
-class CallbackConcurrency : public ApplianceTest {
- protected:
-  void SetUp() override {
-    ApplianceTest::SetUp();
-    provider_->initialize(TestEnvironment::make());
-  }
-  void TearDown() override { provider_->cleanup(); }
+const Target kCallIn = settingData("Zeph_CallInSettingData", "Velmar:Zeph_CallInSettingData");
 
-  CimFailure setRings(int rings) {
-    OpenWBEM::CIMInstance instance("Zeph_CallInSettingData");
-    instance.setProperty("InstanceID",
-                         OpenWBEM::CIMValue(OpenWBEM::String("Velmar:Zeph_CallInSettingData")));
-    instance.setProperty("RingsBeforeAnswer", OpenWBEM::CIMValue(OpenWBEM::UInt16(rings)));
-    return cimFailureOf([&] {
-      provider_->modifyInstance(TestEnvironment::make(), "root/cimv2", instance, instance,
-                                OpenWBEM::WBEMFlags::E_EXCLUDE_QUALIFIERS, 0,
-                                OpenWBEM::CIMClass(OpenWBEM::CIMNULL));
-    });
-  }
-
-  OpenWBEM::IntrusiveReference<Zeph_RASProvider> provider_{new Zeph_RASProvider};
-};
+using CallbackConcurrency = ClientTest;
 
 TEST_F(CallbackConcurrency, RequestsAndTheChangeCallbackLoseAndTearNoEdit) {
   const Lines dialInRest = untouched(kDialIn);
@@ -95,7 +72,7 @@ TEST_F(CallbackConcurrency, RequestsAndTheChangeCallbackLoseAndTearNoEdit) {
     if (i > 0 && lineStartingWith(kDialIn, kRingsPrefix) != previous) {
       lost.push_back(previous + " became " + lineStartingWith(kDialIn, kRingsPrefix));
     }
-    EXPECT_EQ(setRings(rings).code, kNoCimError) << rings;
+    EXPECT_EQ(modify(kCallIn, {{"RingsBeforeAnswer", u16(rings)}}).code, kNoCimError) << rings;
     if (i % kInitializeEvery == kInitializeEvery - 1)
       provider_->initialize(TestEnvironment::make());
   }
