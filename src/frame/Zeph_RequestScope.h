@@ -42,7 +42,7 @@ class RequestScope {
   RequestScope& operator=(const RequestScope&) = delete;
 
  private:
-  std::unique_lock<std::recursive_timed_mutex> lock_;
+  std::unique_lock<std::recursive_mutex> lock_;
   OpenWBEM::CIMOMHandleIFCRef handle_;
   OpenWBEM::CIMOMHandleIFC* previous_;
 };
@@ -57,7 +57,7 @@ class CallbackScope {
   bool entered() const { return lock_.owns_lock(); }
 
  private:
-  std::unique_lock<std::recursive_timed_mutex> lock_;
+  std::unique_lock<std::recursive_mutex> lock_;
 };
 
 // Marks the subscription as ending for its lifetime, so that no callback waits for the lock
