@@ -47,50 +47,36 @@ static int needsMode(int flags) {
   return (flags & O_CREAT) || (flags & __O_TMPFILE) == __O_TMPFILE;
 }
 
-int open(const char* path, int flags, ...) {
-  int mode = 0;
-  if (needsMode(flags)) {
-    va_list args;
-    va_start(args, flags);
-    mode = va_arg(args, int);
-    va_end(args);
+/* Declares `mode` in a variadic open function: its third argument when the flags need one. */
+#define TAKE_MODE(flags)      \
+  int mode = 0;               \
+  if (needsMode(flags)) {     \
+    va_list args;             \
+    va_start(args, flags);    \
+    mode = va_arg(args, int); \
+    va_end(args);             \
   }
+
+int open(const char* path, int flags, ...) {
+  TAKE_MODE(flags);
   count(path);
   return ((int (*)(const char*, int, ...))next("open"))(path, flags, mode);
 }
 
 int open64(const char* path, int flags, ...) {
-  int mode = 0;
-  if (needsMode(flags)) {
-    va_list args;
-    va_start(args, flags);
-    mode = va_arg(args, int);
-    va_end(args);
-  }
+  TAKE_MODE(flags);
   count(path);
   return ((int (*)(const char*, int, ...))next("open64"))(path, flags, mode);
 }
 
 int openat(int dir, const char* path, int flags, ...) {
-  int mode = 0;
-  if (needsMode(flags)) {
-    va_list args;
-    va_start(args, flags);
-    mode = va_arg(args, int);
-    va_end(args);
-  }
+  TAKE_MODE(flags);
   count(path);
   return ((int (*)(int, const char*, int, ...))next("openat"))(dir, path, flags, mode);
 }
 
 int openat64(int dir, const char* path, int flags, ...) {
-  int mode = 0;
-  if (needsMode(flags)) {
-    va_list args;
-    va_start(args, flags);
-    mode = va_arg(args, int);
-    va_end(args);
-  }
+  TAKE_MODE(flags);
   count(path);
   return ((int (*)(int, const char*, int, ...))next("openat64"))(dir, path, flags, mode);
 }
