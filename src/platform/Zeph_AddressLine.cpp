@@ -3,15 +3,16 @@
 
 #include "Zeph_CommandRunner.h"
 #include "Zeph_ConfigReader.h"
+#include "Zeph_PlatformLog.h"
 
 namespace ras {
 
 namespace {
 
 const char* const kSetIPEx = "/opt/etc/RasProviderScripts/setIPEx";
+// A remote part read from a file keeps its line's newline; the command runner then lets it
+// end the command line.
 const char* const kCmdSetIPEx = "%s %s %s:%s";
-// The same line for a remote part read from a file: its newline comes back at the end.
-const char* const kCmdSetIPExLine = "%s %s %s:%s\n";
 const char* const kDelimiters = ":";
 
 bool endsInNewline(const std::string& text) {
@@ -27,13 +28,18 @@ AddressLine readAddressLine(const char* optionsFile) {
 }
 
 int setAddressLine(const char* optionsFile, const std::string& local, const std::string& remote) {
-  if (endsInNewline(remote))
-    return runCommand(kCmdSetIPExLine, {kSetIPEx, optionsFile, local, withoutNewline(remote)});
   return runCommand(kCmdSetIPEx, {kSetIPEx, optionsFile, local, remote});
 }
 
 std::string withoutNewline(const std::string& remote) {
   return endsInNewline(remote) ? remote.substr(0, remote.size() - 1) : remote;
+}
+
+void logAddressLine(const char* localLabel, const char* remoteLabel, const AddressLine& line) {
+  platformLogDebug(localLabel);
+  platformLogDebug(line.local);
+  platformLogDebug(remoteLabel);
+  platformLogDebug(line.remote);
 }
 
 }  // namespace ras

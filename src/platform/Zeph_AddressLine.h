@@ -20,6 +20,10 @@ AddressLine readAddressLine(const char* optionsFile);
 // ignores it. system()'s result, or -1 when a part is not safe for the shell.
 int setAddressLine(const char* optionsFile, const std::string& local, const std::string& remote);
 
+// Logs the line at debug level as four messages: localLabel, the local part, remoteLabel, the
+// remote part.
+void logAddressLine(const char* localLabel, const char* remoteLabel, const AddressLine& line);
+
 // The remote part without the newline of its line.
 std::string withoutNewline(const std::string& remote);
 

@@ -28,13 +28,6 @@ const char* const kLogLocal = "LOCAL IP\n";
 const char* const kLogLocalOnSet = "LOCAL IP \n";
 const char* const kLogRemote = "REMOTE IP\n";
 
-void logAddressLine(const char* localLabel, const AddressLine& line) {
-  platformLogDebug(localLabel);
-  platformLogDebug(line.local);
-  platformLogDebug(kLogRemote);
-  platformLogDebug(line.remote);
-}
-
 }  // namespace
 
 Zeph_RASIPProtocolEndpointImpl::Zeph_RASIPProtocolEndpointImpl(
@@ -45,7 +38,7 @@ Zeph_RASIPProtocolEndpointImpl::Zeph_RASIPProtocolEndpointImpl(
       subnetMask_(kHostMask) {
   const AddressLine line = readAddressLine(optionsFile());
   addrAssignment_ = line.local.empty();
-  logAddressLine(kLogLocal, line);
+  logAddressLine(kLogLocal, kLogRemote, line);
   ipv4Address_ = line.local;
 }
 
@@ -85,7 +78,7 @@ int Zeph_RASIPProtocolEndpointImpl::setIPv4Address(std::string value) {
   ipv4Address_ = value;
   const char* file = optionsFile();
   const AddressLine line = readAddressLine(file);
-  logAddressLine(kLogLocalOnSet, line);
+  logAddressLine(kLogLocalOnSet, kLogRemote, line);
   setAddressLine(file, addrAssignment_ ? std::string() : value, line.remote);
   if (!dialIn()) Restart_ppp_add_v2k();
   return kStatusOk;
@@ -112,7 +105,7 @@ int Zeph_RASIPProtocolEndpointImpl::setaddrAssignment(bool value) {
   platformLogDebug(kTraceSetaddrAssignment);
   const char* file = optionsFile();
   const AddressLine line = readAddressLine(file);
-  logAddressLine(kLogLocalOnSet, line);
+  logAddressLine(kLogLocalOnSet, kLogRemote, line);
   setAddressLine(file, value ? std::string() : ipv4Address_, line.remote);
   addrAssignment_ = value;
   if (!dialIn()) Restart_ppp_add_v2k();

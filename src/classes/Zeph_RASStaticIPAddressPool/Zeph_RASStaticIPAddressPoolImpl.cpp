@@ -31,13 +31,6 @@ const char* const kLogPoolOn = "setting static pool to true";
 const char* const kLogPoolOff = "setting static pool to false";
 const char* const kLogInstanceID = "Static Pool InstanceID\n";
 
-void logAddressLine(const char* localLabel, const char* remoteLabel, const AddressLine& line) {
-  platformLogDebug(localLabel);
-  platformLogDebug(line.local);
-  platformLogDebug(remoteLabel);
-  platformLogDebug(line.remote);
-}
-
 }  // namespace
 
 Zeph_RASStaticIPAddressPoolImpl::Zeph_RASStaticIPAddressPoolImpl(const std::string& instanceID)
