@@ -9,21 +9,8 @@ here=$(cd "$(dirname "$0")" && pwd)
 . "$here/cimom.sh"
 # shellcheck source=tests/integration/load.sh
 . "$here/load.sh"
-
-passed=0
-failed=0
-JOURNAL=/var/lib/appliance/journal
-
-# check WHAT EXPECTED ACTUAL
-check() {
-  if [ "$2" = "$3" ]; then
-    passed=$((passed + 1))
-    echo "ok - $1"
-  else
-    failed=$((failed + 1))
-    printf 'not ok - %s\n  expected: %s\n  actual:   %s\n' "$1" "$2" "$3"
-  fi
-}
+# shellcheck source=tests/integration/checks.sh
+. "$here/checks.sh"
 
 # The paths wbemcli prints: the CIMOM's host and port, then the namespace and the model path.
 HOST=127.0.0.1:$CIMOM_PORT/$CIMOM_NS
@@ -422,5 +409,4 @@ case_hostile
 case_restart
 case_load
 cimom_stop
-echo "integration: $passed passed, $failed failed"
-[ "$failed" -eq 0 ]
+checks_report

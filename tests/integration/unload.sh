@@ -13,22 +13,11 @@ CIMOM_EXTRA_PROVIDERS=$OW_PREFIX/lib/openwbem/c++providers/libowprovpollUnloader
 CIMOM_PRELOAD=$RAS_PLATFORM_LIBDIR/libQvlShared.so
 # shellcheck source=tests/integration/cimom.sh
 . "$here/cimom.sh"
+# shellcheck source=tests/integration/checks.sh
+. "$here/checks.sh"
 
-passed=0
-failed=0
-JOURNAL=/var/lib/appliance/journal
 SERVICE='Zeph_RASService.SystemCreationClassName="Zeph_System",SystemName="Zeph",CreationClassName="Zeph_RASService",Name="RASService"'
 UNLOADED="Unloading Provider Zeph_RASProvider"
-
-check() {
-  if [ "$2" = "$3" ]; then
-    passed=$((passed + 1))
-    echo "ok - $1"
-  else
-    failed=$((failed + 1))
-    printf 'not ok - %s\n  expected: %s\n  actual:   %s\n' "$1" "$2" "$3"
-  fi
-}
 
 unloads() {
   grep -c "$UNLOADED" "$CIMOM_DIR/owcimomd.log"
@@ -82,5 +71,4 @@ check "the reloaded module follows a later change" \
   "#\$IF_ENABLE_CMD #\$IF_ENABLE_CMD " "$(gates)"
 check "alive at the end" "yes" "$(cimom_alive && echo yes)"
 cimom_stop
-echo "integration: $passed passed, $failed failed"
-[ "$failed" -eq 0 ]
+checks_report
