@@ -67,6 +67,7 @@ void fromCimValue(const OpenWBEM::CIMValue& value, bool& out) {
 }
 
 std::optional<std::string> referencedInstanceID(const OpenWBEM::CIMValue& reference) {
+  if (!reference || reference.getType() != OpenWBEM::CIMDataType::REFERENCE) return std::nullopt;
   const OpenWBEM::CIMValue id = reference.toCIMObjectPath().getKeyValue(kInstanceID);
   if (!id) return std::nullopt;
   return toStdString(id.toString());

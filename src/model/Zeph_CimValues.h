@@ -27,7 +27,8 @@ void fromCimValue(const OpenWBEM::CIMValue& value, unsigned short& out);
 void fromCimValue(const OpenWBEM::CIMValue& value, unsigned char& out);
 void fromCimValue(const OpenWBEM::CIMValue& value, bool& out);
 
-// The InstanceID named by a reference value; empty if the path has none or it is null.
+// The InstanceID named by a reference value; none if the value is null or not a reference, or
+// its path has no InstanceID.
 std::optional<std::string> referencedInstanceID(const OpenWBEM::CIMValue& reference);
 
 std::string toStdString(const OpenWBEM::String& text);

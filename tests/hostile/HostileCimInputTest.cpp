@@ -11,8 +11,8 @@ namespace {
 
 using OpenWBEM::CIMException;
 
-const client::Target* const kTargets[] = {&kCallIn, &kDialOut,  &kService,
-                                          &kPppOut, &kModemOut, &kPortIn};
+const client::Target* const kTargets[] = {&kCallIn, &kDialOut, &kService,    &kPppOut, &kModemOut,
+                                          &kPortIn, &kPoolOut, &kEndpointIn, &kRoute};
 
 const std::string kLong(10 * 1024, '7');
 
@@ -113,6 +113,67 @@ class HostileCimInput : public HostileTest {
     }
     return rows;
   }
+
+  CimFailure createRoute(const std::vector<Change>& properties) {
+    OpenWBEM::CIMInstance instance("Zeph_NextHopIPRoute");
+    for (const auto& [name, value] : properties) instance.setProperty(name.c_str(), value);
+    return cimFailureOf(
+        [&] { call([&](const auto& env) { provider_->createInstance(env, kNs, instance); }); });
+  }
+
+  // The association, named by references or by text where references belong.
+  CimFailure getAssociation(const OpenWBEM::CIMValue& antecedent,
+                            const OpenWBEM::CIMValue& dependent) {
+    OpenWBEM::CIMObjectPath path(OpenWBEM::CIMName("Zeph_DialOutRoutes"), kNs);
+    path.setKeyValue("Antecedent", antecedent);
+    path.setKeyValue("Dependent", dependent);
+    return getFailure(path);
+  }
+
+  // Creations of routes and requests on their association, which the generic rows do not
+  // reach.
+  std::vector<Row> routeRows() {
+    const OpenWBEM::CIMValue settings(
+        client::settingData("Zeph_DialOutSettingData", "Velmar:Zeph_DialOutSettingData").path());
+    const OpenWBEM::CIMValue known(kRoute.path());
+    const OpenWBEM::CIMValue unknown(client::settingData("Zeph_NextHopIPRoute", "10.9.9.9").path());
+    using V = OpenWBEM::CIMValue;
+    return {
+        {"ci route without an address", [=] { return createRoute({}); }, CIMException::FAILED},
+        {"ci route with a null address",
+         [=] {
+           return createRoute({{"DestinationAddress", V(OpenWBEM::CIMNULL)}});
+         },
+         CIMException::FAILED},
+        {"ci route with a numeric address",
+         [=] {
+           return createRoute({{"DestinationAddress", V(OpenWBEM::UInt32(10))}});
+         },
+         CIMException::FAILED},
+        {"ci route with an empty address",
+         [=] {
+           return createRoute({{"DestinationAddress", text("")}});
+         },
+         CIMException::FAILED},
+        {"ci route with a 10 KB address",
+         [=] {
+           return createRoute({{"DestinationAddress", text(kLong)}});
+         },
+         CIMException::FAILED},
+        {"ci route with a hostile address",
+         [=] {
+           return createRoute({{"DestinationAddress", text("10.1.1.1;reboot")}});
+         },
+         CIMException::FAILED},
+        {"gi association by text keys",
+         [=] { return getAssociation(text("Zeph_DialOutSettingData"), text("10.1.0.0")); },
+         CIMException::NOT_FOUND},
+        {"gi association of an unknown route", [=] { return getAssociation(settings, unknown); },
+         CIMException::NOT_FOUND},
+        {"gi association with swapped ends", [=] { return getAssociation(known, settings); },
+         CIMException::NOT_FOUND},
+    };
+  }
 };
 
 TEST_F(HostileCimInput, EveryMalformedRequestIsACimErrorThatChangesNothing) {
@@ -120,6 +181,7 @@ TEST_F(HostileCimInput, EveryMalformedRequestIsACimErrorThatChangesNothing) {
   for (const client::Target* target : kTargets) {
     for (Row& row : rowsFor(*target)) rows.push_back(std::move(row));
   }
+  for (Row& row : routeRows()) rows.push_back(std::move(row));
   rows.push_back(
       {"gi of an unknown class",
        [this] { return getFailure(OpenWBEM::CIMObjectPath(OpenWBEM::CIMName("Zeph_Bogus"), kNs)); },

@@ -24,20 +24,21 @@ inline const client::Target kPortIn =
     client::systemElement("Zeph_SerialPort", "DeviceId", "DialInSerialPort");
 inline const client::Target kPortOut =
     client::systemElement("Zeph_SerialPort", "DeviceId", "DialOutSerialPort");
+inline const client::Target kPoolOut =
+    client::settingData("Zeph_RASStaticIPAddressPool", "Velmar:DialOutRASStaticIPAddressPool");
+inline const client::Target kEndpointIn =
+    client::systemElement("Zeph_RASIPProtocolEndpoint", "Name", "DialInEndpoint");
+inline const client::Target kRoute = client::settingData("Zeph_NextHopIPRoute", "10.1.0.0");
 
 // Every file a setter of these classes may edit, and the modem's own parameter store.
-inline const std::vector<std::string> kEditedFiles = {"/qv/etc/ppp/ppp_call_v2k",
-                                                      "/qv/etc/ppp/callback_v2k",
-                                                      "/qv/etc/ppp/options_dialout",
-                                                      "/qv/etc/ppp/options_dialin",
-                                                      "/qv/etc/ppp/options_callback",
-                                                      "/qv/etc/ppp/mgetty_v2k",
-                                                      "/qv/etc/ppp/ppp_add_v2k",
-                                                      "/qv/etc/ppp/pppd_addo_v2k",
-                                                      "/etc/ppp/pap-secrets",
-                                                      "/etc/ppp/chap-secrets",
-                                                      "/opt/etc/mgetty+sendfax/mgetty.config",
-                                                      "/var/lib/appliance/modem"};
+inline const std::vector<std::string> kEditedFiles = {
+    "/qv/etc/ppp/ppp_call_v2k",     "/qv/etc/ppp/callback_v2k",
+    "/qv/etc/ppp/options_dialout",  "/qv/etc/ppp/options_dialin",
+    "/qv/etc/ppp/options_callback", "/qv/etc/ppp/mgetty_v2k",
+    "/qv/etc/ppp/ppp_add_v2k",      "/qv/etc/ppp/pppd_addo_v2k",
+    "/qv/etc/ppp/ip_up_add_v2k",    "/etc/ppp/pap-secrets",
+    "/etc/ppp/chap-secrets",        "/opt/etc/mgetty+sendfax/mgetty.config",
+    "/var/lib/appliance/modem"};
 
 class HostileTest : public DialOutTest {
  protected:

@@ -223,6 +223,20 @@ TEST_F(RouteTest, TheCollectionLogsAFailedLookupAndEveryStep) {
   EXPECT_EQ(std::count(log.begin(), log.end(), "Size of Collection : \n"), 2);
 }
 
+// A destination listed twice takes the later element; the earlier route is dropped, not kept
+// aside (the sanitizer build reports it if it leaks).
+class DuplicateRouteFile : public RouteTest {
+ protected:
+  void beforeInitialising() override { writeRouteFile({kR1, kR2, {"10.1.0.0", "255.0.0.0", "9"}}); }
+};
+
+TEST_F(DuplicateRouteFile, LoadsTheDestinationOnceAtItsLaterIndex) {
+  EXPECT_EQ(routeIds(), (Lines{"10.1.0.0", "10.2.0.0"}));
+  const OpenWBEM::CIMInstance instance = get(route("10.1.0.0"));
+  EXPECT_EQ(textOf(instance.getPropertyValue("DestinationMask")), "255.0.0.0");
+  EXPECT_EQ(textOf(instance.getPropertyValue("RouteMetric")), "9");
+}
+
 // Sources the route file with bash: the count and the three arrays, one line each.
 Lines sourcedArrays() {
   const appliance::ToolResult result = appliance::runTool(

@@ -26,11 +26,8 @@ Zeph_DialOutRoutes* Zeph_DialOutRoutesInstProvider::createFrom(
   std::string ids[2];
   const char* const ends[] = {"Antecedent", "Dependent"};
   for (int i = 0; i < 2; ++i) {
-    const OpenWBEM::CIMValue reference = newInstance.getPropertyValue(ends[i]);
     const std::optional<std::string> id =
-        reference && reference.getType() == OpenWBEM::CIMDataType::REFERENCE
-            ? ras::referencedInstanceID(reference)
-            : std::nullopt;
+        ras::referencedInstanceID(newInstance.getPropertyValue(ends[i]));
     if (!id) {
       ras::throwProviderError({Zeph_DialOutRoutesTraits::kSource, 0},
                               OpenWBEM::CIMException::INVALID_PARAMETER,

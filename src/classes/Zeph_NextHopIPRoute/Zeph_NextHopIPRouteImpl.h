@@ -47,6 +47,9 @@ class Zeph_NextHopIPRouteImplInstanceManager
   int getMask(int index, std::string& out) const;
   int getMetric(int index, std::string& out) const;
 
+  // The count of the route file, as loaded and kept by creations and deletions.
+  int routeCount() const { return routeCount_; }
+
  private:
   void renumberFollowing(int index, int count);
   void destroyAssociation(const std::string& instanceID) const;

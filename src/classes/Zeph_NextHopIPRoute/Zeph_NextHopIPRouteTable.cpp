@@ -83,6 +83,11 @@ int Zeph_NextHopIPRouteImplInstanceManager::init() {
   for (int i = 0; i < routeCount_; ++i) {
     std::string destination;
     getRoute(i, destination);
+    // A destination listed twice: the later element takes the key, the earlier route goes.
+    try {
+      delete InstanceManager<Zeph_NextHopIPRoute>::get(destination);
+    } catch (const CFG_NoInstance&) {
+    }
     (new Zeph_NextHopIPRouteImpl(destination))->SetRouteIndex(i);
   }
   return kStatusOk;
