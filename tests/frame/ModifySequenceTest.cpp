@@ -217,6 +217,11 @@ TEST_F(CallInProviderTest, CreateListsTheNewObjectAndRollsBackAFailedModify) {
   EXPECT_EQ(refused.line, 334);
   EXPECT_EQ(listedIDs(), (std::vector<std::string>{"Velmar:Added", kInstanceID}));
 
+  // Under a key that is taken, the new object replaces the old one, which is freed (the
+  // sanitizer build reports it if it leaks).
+  EXPECT_EQ(create(kInstanceID, {{"RingsBeforeAnswer", u16(4)}}), kSuccess);
+  EXPECT_EQ(listedIDs(), (std::vector<std::string>{"Velmar:Added", kInstanceID}));
+
   provider_.deleteInstance(env_, kNs, pathOf("Velmar:Added"));
   EXPECT_EQ(listedIDs(), (std::vector<std::string>{kInstanceID}));
 }

@@ -11,6 +11,8 @@ here=$(cd "$(dirname "$0")" && pwd)
 . "$here/load.sh"
 # shellcheck source=tests/integration/checks.sh
 . "$here/checks.sh"
+# shellcheck source=tests/integration/hostile.sh
+. "$here/hostile.sh"
 
 # The paths wbemcli prints: the CIMOM's host and port, then the namespace and the model path.
 HOST=127.0.0.1:$CIMOM_PORT/$CIMOM_NS
@@ -349,37 +351,6 @@ case_routes() {
     "$(wbem ain "-ac Zeph_DialOutRoutes" "$DIALOUT" | instance_ids)"
 }
 
-# Hostile values and malformed requests through the real CIMOM: nothing of a payload runs,
-# refused values change no file, and each malformed request is a CIM error with its code.
-case_hostile() {
-  marker=/tmp/pwned
-  rm -f "$marker"
-  files="/qv/etc/ppp/ppp_call_v2k /qv/etc/ppp/options_dialout /qv/etc/ppp/mgetty_v2k
-    /opt/etc/mgetty+sendfax/mgetty.config /etc/ppp/pap-secrets /etc/ppp/chap-secrets"
-  # shellcheck disable=SC2086
-  before=$(cat $files)
-  check "hostile number refused" "(1) CIM_ERR_FAILED: #RAS_MODEM_16#" \
-    "$(cim_error mi "$DIALOUT" "DialOutNumber=;touch $marker")"
-  check "hostile port name refused" \
-    '(4) CIM_ERR_INVALID_PARAMETER: The value of $prop.getName() is invalid.&#10;#CFG_000_0000,MOF_Props_Zeph_SerialPort_$prop.getName()#' \
-    "$(cim_error mi "$PORT_IN" "Name=\$(touch $marker)")"
-  check "password with a carriage return refused" "(4) CIM_ERR_INVALID_PARAMETER" \
-    "$(cim_error mi "$DIALOUT" "DialOutPassword=$(printf 'x\rtouch %s' $marker)" | cut -d: -f1)"
-  check "10 KB number refused" "(4) CIM_ERR_INVALID_PARAMETER" \
-    "$(cim_error mi "$DIALOUT" "DialOutNumber=$(printf '%010240d' 7)" | cut -d: -f1)"
-  # shellcheck disable=SC2086
-  check "refused hostile values change no file" "$before" "$(cat $files)"
-  journal_clear
-  wbem mi "$DIALOUT" "DialOutPassword=\`touch $marker\`;reboot"
-  check "hostile password stored as text" 1 \
-    "$(grep -c -F "	\"\`touch $marker\`;reboot\"	" /etc/ppp/pap-secrets)"
-  check "hostile password passed as one word" 1 \
-    "$(journal | grep -c "addPassword [^ ]* [^ ]* '\`touch $marker\`;reboot' /etc/ppp/pap-secrets")"
-  wbem mi "$DIALOUT" DialOutPassword=dialpass
-  check "no payload ran" "no" "$(test -e "$marker" && echo yes || echo no)"
-  check "alive after hostile requests" "yes" "$(cimom_alive && echo yes)"
-}
-
 # A restart (SIGHUP) unloads and reloads the module; it reads the changed files anew.
 case_restart() {
   cimom_restart
@@ -406,6 +377,7 @@ case_modem_serial
 case_ipaddress
 case_routes
 case_hostile
+case_malformed
 case_restart
 case_load
 cimom_stop

@@ -42,20 +42,28 @@ class Recorder {
     std::unique_lock<std::mutex> lock(mutex_);
     return called_.wait_for(lock, kGenerousWait, [&] { return contexts_.size() >= count; });
   }
-  std::function<void()> onCall;  // runs inside the callback, after recording
+  // `action` runs inside the callback, after recording. Set under the lock: the callback's
+  // thread may already be running.
+  void onCall(std::function<void()> action) {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    onCall_ = std::move(action);
+  }
 
  private:
   void record(unsigned long context) {
+    std::function<void()> action;
     {
       const std::lock_guard<std::mutex> lock(mutex_);
       contexts_.push_back(context);
+      action = onCall_;
     }
     called_.notify_all();
-    if (onCall) onCall();
+    if (action) action();
   }
   std::mutex mutex_;
   std::condition_variable called_;
   std::vector<unsigned long> contexts_;
+  std::function<void()> onCall_;
 };
 
 // A subscription that is ended when the test leaves, even after a failed assertion.
@@ -147,10 +155,10 @@ TEST(Notify, StopAndSyncFromInsideACallbackDoNotDeadlock) {
   Recorder selfStopping, witness;
   std::atomic<int> stopResult{-1}, syncResult{0};
   Subscription own(kStatus, selfStopping), other(kStatus, witness);
-  selfStopping.onCall = [&] {
+  selfStopping.onCall([&] {
     stopResult = QvlNotifyRegChangeStop(own.handle());
     syncResult = QvlNotifySync();
-  };
+  });
   for (const char* value : {"DISABLED", "ENABLED"}) {
     ASSERT_EQ(0, setStatus(value));
     ASSERT_EQ(0, QvlNotifySync());
@@ -162,7 +170,7 @@ TEST(Notify, StopAndSyncFromInsideACallbackDoNotDeadlock) {
   // When the callback ends the last subscription, its thread is joined by the next call.
   Recorder last;
   Subscription only(kStatus, last);
-  last.onCall = [&] { stopResult = QvlNotifyRegChangeStop(only.handle()); };
+  last.onCall([&] { stopResult = QvlNotifyRegChangeStop(only.handle()); });
   ASSERT_EQ(0, other.stop());
   ASSERT_EQ(0, setStatus("DISABLED"));
   ASSERT_EQ(0, QvlNotifySync());
@@ -179,11 +187,11 @@ TEST(Notify, StopWaitsForTheRunningCallback) {
   std::condition_variable changed;
   bool released = false;
   std::atomic<bool> finished{false};
-  blocked.onCall = [&] {
+  blocked.onCall([&] {
     std::unique_lock<std::mutex> lock(mutex);
     changed.wait_for(lock, kGenerousWait, [&] { return released; });
     finished = true;
-  };
+  });
   Recorder bystander;  // keeps the thread alive, so that stop cannot rely on joining it
   Subscription subscription(kStatus, blocked), kept(kStatus, bystander);
   ASSERT_EQ(0, setStatus("DISABLED"));

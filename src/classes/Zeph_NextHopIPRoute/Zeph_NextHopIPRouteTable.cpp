@@ -83,12 +83,14 @@ int Zeph_NextHopIPRouteImplInstanceManager::init() {
   for (int i = 0; i < routeCount_; ++i) {
     std::string destination;
     getRoute(i, destination);
-    // A destination listed twice: the later element takes the key, the earlier route goes.
+    // A destination listed twice: the later element takes the key, the earlier route is freed.
+    Zeph_NextHopIPRoute* replaced = nullptr;
     try {
-      delete InstanceManager<Zeph_NextHopIPRoute>::get(destination);
+      replaced = InstanceManager<Zeph_NextHopIPRoute>::get(destination);
     } catch (const CFG_NoInstance&) {
     }
     (new Zeph_NextHopIPRouteImpl(destination))->SetRouteIndex(i);
+    delete replaced;
   }
   return kStatusOk;
 }
