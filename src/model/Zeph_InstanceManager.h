@@ -34,11 +34,10 @@ class InstanceManager {
   // Inserts or replaces the entry under the object's key.
   virtual void add(ManagedObject* object) { objects_[object->managerKey()] = object; }
 
-  // Erases the object's own entry (not another object's under the same key); the cursor
-  // moves on if it stood there.
+  // Erases the entry under the object's key; the cursor moves on if it stood there.
   virtual void remove(ManagedObject* object) {
     const auto found = objects_.find(object->managerKey());
-    if (found == objects_.end() || found->second != object) return;
+    if (found == objects_.end()) return;
     if (found == cursor_) ++cursor_;
     objects_.erase(found);
   }
@@ -75,19 +74,17 @@ class ImplInstanceManager : public Base {
   using Wrapper = typename Base::Wrapper;
   using KeyValues = typename Base::KeyValues;
 
-  // The new object takes the key; an object this manager built earlier under the same key is
-  // no longer reachable by any request, and is freed rather than left behind on every create.
+  // The new object takes the key. An object this manager built earlier under the same key
+  // could no longer be reached by any request: it is freed first (which erases its entry)
+  // rather than left behind on every such create.
   Wrapper* create(const KeyValues& keys) override {
     std::string key;
     for (const std::string& value : keys) key += value;
-    Wrapper* replaced = nullptr;
     try {
-      replaced = InstanceManager<Wrapper>::get(key);
+      delete InstanceManager<Wrapper>::get(key);
     } catch (const CFG_NoInstance&) {
     }
-    Wrapper* created = construct(keys, std::make_index_sequence<Wrapper::kKeyCount>{});
-    delete replaced;
-    return created;
+    return construct(keys, std::make_index_sequence<Wrapper::kKeyCount>{});
   }
 
   void destroy(Wrapper* object) override { delete object; }

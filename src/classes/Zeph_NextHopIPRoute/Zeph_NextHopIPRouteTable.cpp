@@ -83,14 +83,13 @@ int Zeph_NextHopIPRouteImplInstanceManager::init() {
   for (int i = 0; i < routeCount_; ++i) {
     std::string destination;
     getRoute(i, destination);
-    // A destination listed twice: the later element takes the key, the earlier route is freed.
-    Zeph_NextHopIPRoute* replaced = nullptr;
+    // A destination listed twice: the earlier route is freed (which erases its entry) and the
+    // later element takes the key.
     try {
-      replaced = InstanceManager<Zeph_NextHopIPRoute>::get(destination);
+      delete InstanceManager<Zeph_NextHopIPRoute>::get(destination);
     } catch (const CFG_NoInstance&) {
     }
     (new Zeph_NextHopIPRouteImpl(destination))->SetRouteIndex(i);
-    delete replaced;
   }
   return kStatusOk;
 }
