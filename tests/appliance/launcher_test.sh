@@ -47,6 +47,14 @@ TMPDIR=$work/tmp "$run" -- grep -qx 'mtu 1500' /qv/etc/ppp/options_dialout ||
 [ -z "$(ls -A "$work/tmp")" ] || fail "temporary state left behind"
 [ "$("$run" -- hostname)" = appliance ] || fail "not in its own UTS namespace"
 "$run" -- appliance-ctl show | grep -q '^journal: 0 command lines$' || fail "show"
+# A host directory bound inside one of the state's trees (as a checkout under /var/tmp is)
+# is visible, and its mount point does not stay in the state.
+outside=$(mktemp -d /var/tmp/launcher.XXXXXX)
+echo seen >"$outside/file"
+"$run" --state "$work/state" --host-ro "$outside" -- grep -qx seen "$outside/file" ||
+  { rm -rf "$outside"; fail "a host directory under /var is not visible"; }
+rm -rf "$outside"
+[ ! -e "$work/state/rootfs/var/tmp" ] || fail "mount point left in the state"
 status=0
 "$run" -- sh -c 'exit 7' || status=$?
 [ "$status" = 7 ] || fail "exit status not passed on: $status"
