@@ -82,6 +82,7 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
 
   CIMObjectPath createInstance(const EnvRef&, const String& ns,
                                const CIMInstance& newInstance) override {
+    refuseUnacceptable(newInstance);
     W* object = createFrom(newInstance);
     try {
       modifyInstance(*object, newInstance);
@@ -247,21 +248,41 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
     }
   }
 
-  void applyIfWritable(W& object, const OpenWBEM::CIMProperty& property) const {
-    const String name = property.getName();
+  static const Property<W>* writableRow(const String& name) {
     for (const Property<W>& row : Traits::properties()) {
-      if (row.role != Role::Writable || !name.equals(row.name)) continue;
+      if (row.role == Role::Writable && name.equals(row.name)) return &row;
+    }
+    return nullptr;
+  }
+
+  void applyIfWritable(W& object, const OpenWBEM::CIMProperty& property) const {
+    const Property<W>* row = writableRow(property.getName());
+    const OpenWBEM::CIMValue value = property.getValue();
+    if (row != nullptr && value) apply(object, *row, value);
+  }
+
+  // The checks of the change sequence, run over a new instance before its object exists: a
+  // value the sequence would refuse is refused with the same error, before anything runs.
+  void refuseUnacceptable(const CIMInstance& instance) const {
+    const OpenWBEM::CIMPropertyArray properties = instance.getProperties();
+    for (const OpenWBEM::CIMProperty& property : properties) {
+      const Property<W>* row = writableRow(property.getName());
       const OpenWBEM::CIMValue value = property.getValue();
-      if (value) apply(object, row, value);
-      return;
+      if (row == nullptr || !value) continue;
+      raise(hasRowType(*row, value)
+                ? acceptValue(*row, value, [&](const auto& typed) { check(*row, typed); })
+                : kStatusInvalidValue);
     }
   }
 
   void apply(W& object, const Property<W>& row, const OpenWBEM::CIMValue& value) const {
-    const int status =
-        hasRowType(row, value)
-            ? writeValue(row, object, value, [&](const auto& typed) { check(row, typed); })
-            : kStatusInvalidValue;
+    raise(hasRowType(row, value)
+              ? writeValue(row, object, value, [&](const auto& typed) { check(row, typed); })
+              : kStatusInvalidValue);
+  }
+
+  // The error of a setter status other than success.
+  void raise(int status) const {
     if (status == kStatusInvalidValue) {
       throwProviderError(at(lines().invalidValue), OpenWBEM::CIMException::INVALID_PARAMETER,
                          invalidValueMessage(Traits::kClass));

@@ -19,18 +19,24 @@ enum class Role { Key, ReadOnly, Writable };
 // CIM type of the property; datetime and reference values travel as text inside the module.
 enum class CimType { String, UInt16, UInt8, Boolean, DateTime, Reference };
 
-// Provider checks: upper bound before lower bound for integers, length for text.
+// A setter's own check of a text value, free of side effects: the status the setter gives
+// the value before it runs anything (kStatusOk when it takes it).
+using TextCheck = int (*)(const std::string&);
+
+// Provider checks: upper bound before lower bound for integers, length for text. `accept`,
+// when set, lets a creation refuse a value before its object exists.
 struct Limits {
   std::optional<unsigned> minimum;
   std::optional<unsigned> maximum;
   std::optional<unsigned> maximumLength;
+  TextCheck accept = nullptr;
 };
 
 inline Limits range(unsigned minimum, unsigned maximum) {
   return {minimum, maximum, {}};
 }
-inline Limits maxLength(unsigned length) {
-  return {{}, {}, length};
+inline Limits maxLength(unsigned length, TextCheck accept = nullptr) {
+  return {{}, {}, length, accept};
 }
 
 template <class W, class T>

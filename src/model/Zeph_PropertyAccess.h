@@ -53,6 +53,23 @@ int writeValue(const Property<W>& row, W& object, const OpenWBEM::CIMValue& valu
       row.access);
 }
 
+// Converts `value` to the setter's type and runs `check` on it (which throws on failure) and
+// the row's own text check; returns the status the setter would give it, without calling it.
+template <class W, class Check>
+int acceptValue(const Property<W>& row, const OpenWBEM::CIMValue& value, Check check) {
+  return std::visit(
+      [&](const auto& access) {
+        typename std::decay_t<decltype(access)>::Value typed{};
+        fromCimValue(value, typed);
+        check(typed);
+        if constexpr (std::is_same_v<decltype(typed), std::string>) {
+          if (row.limits.accept != nullptr) return row.limits.accept(typed);
+        }
+        return kStatusOk;
+      },
+      row.access);
+}
+
 // True when a non-null `value` has the row's CIM type; a CIMOM converts a client's value
 // to the class's type, anything else reaching a setter is a malformed request.
 template <class W>

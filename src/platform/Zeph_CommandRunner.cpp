@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "Zeph_PlatformLog.h"
+#include "Zeph_RestingPlace.h"
 
 namespace ras {
 
@@ -34,13 +35,6 @@ bool hasControl(const std::string& value) {
   return false;
 }
 
-// Every single-quoted slot lies in a sed expression, where "/" ends an address or an `s`
-// part, "&" stands for the match, a backslash escapes and ";" starts another command (`e`
-// runs one): only a plain word without "/" is taken there.
-bool isSedWord(const std::string& value) {
-  return isPlainShellValue(value) && value.find('/') == std::string::npos;
-}
-
 bool isDecimal(const std::string& value) {
   std::size_t i = (!value.empty() && value[0] == '-') ? 1 : 0;
   if (i == value.size()) return false;
@@ -60,8 +54,9 @@ bool safeSlotText(const CommandArg& arg, char conversion, Quoting quoting, std::
       out = shellWord(value);
       return true;
     case Quoting::Single:
+      // Every single-quoted slot lies in a sed expression.
       out = value;
-      return isSedWord(value);
+      return staysData(value, RestingPlace::SedText);
     case Quoting::Double:
       out = value;
       return !hasAnyOf(value, "\"$`\\");

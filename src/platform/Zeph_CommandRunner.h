@@ -30,7 +30,8 @@ class CommandArg {
 // A value with only ordinary characters lands as it is, so documented command lines stay
 // byte for byte the same. Otherwise, outside quotes it becomes one single-quoted shell word;
 // inside double quotes it is refused if it holds `"`, `$`, a backquote or a backslash; inside
-// single quotes (always a sed expression) it is refused unless it is plain and has no "/".
+// single quotes (always a sed expression) it is refused unless it is plain text (blanks
+// allowed) without "/".
 // A control character anywhere is refused (one trailing newline excepted, when its slot ends
 // the format), and so is a %d value that is not a decimal number. A command that would not
 // fit the 1024-byte buffer the appliance's tools were written for is refused too.

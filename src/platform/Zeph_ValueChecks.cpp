@@ -14,6 +14,7 @@
 #include "Zeph_CommandRunner.h"
 #include "Zeph_PlatformLog.h"
 #include "Zeph_Registry.h"
+#include "Zeph_RestingPlace.h"
 #include "Zeph_TextFormat.h"
 
 using namespace ras;
@@ -165,7 +166,19 @@ int reverse(char* text) {
   return length;
 }
 
+// An address rests in the route file's arrays, in sed expressions and in a part of pppd's
+// address line.
 bool ras::isSettableAddress(const std::string& address) {
   std::string copy = address;
-  return IsIPValid(copy.data()) == 1 && isPlainShellValue(address);
+  return IsIPValid(copy.data()) == 1 &&
+         staysData(address, {RestingPlace::SedText, RestingPlace::QuotedAssignment,
+                             RestingPlace::AddressPart});
+}
+
+// A mask rests in the route file's NETMASK array and in sed expressions; inet_aton stops at
+// the first blank, so anything may follow one.
+bool ras::isSettableMask(const std::string& mask) {
+  std::string copy = mask;
+  return IsMaskValid(copy.data()) == 1 &&
+         staysData(mask, {RestingPlace::SedText, RestingPlace::QuotedAssignment});
 }

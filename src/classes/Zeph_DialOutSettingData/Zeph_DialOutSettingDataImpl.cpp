@@ -18,6 +18,7 @@
 #include "Zeph_ModuleGlobals.h"
 #include "Zeph_PlatformAccess.h"
 #include "Zeph_PlatformLog.h"
+#include "Zeph_RestingPlace.h"
 #include "Zeph_ShellVariable.h"
 #include "Zeph_TextFormat.h"
 
@@ -137,15 +138,6 @@ long userIndex(const std::string& text) {
   if (index < 0 || index >= static_cast<long>(UserNames.size())) return -1;
   if (!ras::isPlainShellValue(UserNames[index])) return -1;
   return index;
-}
-
-// A secret is stored between double quotes of a tab-separated secrets line.
-bool isStorableSecret(const std::string& text) {
-  for (char c : text) {
-    const auto code = static_cast<unsigned char>(c);
-    if (c == '"' || c == '\\' || code < 0x20 || code == 0x7f) return false;
-  }
-  return true;
 }
 
 }  // namespace
@@ -268,7 +260,8 @@ int Zeph_DialOutSettingDataImpl::getDialOutPassword(std::string& value, ras::Qua
 }
 
 int Zeph_DialOutSettingDataImpl::setDialOutPassword(std::string value) {
-  if (!isStorableSecret(value)) return ras::kStatusInvalidValue;
+  // The secret is stored between double quotes of a tab-separated secrets line.
+  if (!ras::staysData(value, ras::RestingPlace::SecretColumn)) return ras::kStatusInvalidValue;
   for (const char* secrets : {kPapSecrets, kChapSecrets}) {
     runCommand(kCmdAddPassword, {kAddPasswordScript, userName_, password_, value, secrets});
   }

@@ -16,6 +16,10 @@ class Zeph_NextHopIPRoute
  public:
   explicit Zeph_NextHopIPRoute(const std::string& instanceID) : InstanceIdKeyed(instanceID) {}
 
+  // What setDestinationMask gives a mask it refuses; a creation checks the mask first.
+  static constexpr int kStatusInvalidMask = 17;
+  static int maskStatus(const std::string& mask);
+
   virtual int getDestinationAddress(std::string&, ras::Qualifiers&) const {
     return ras::kStatusNotProvided;
   }

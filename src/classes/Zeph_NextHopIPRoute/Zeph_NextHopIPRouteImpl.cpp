@@ -4,7 +4,6 @@
 #include "Zeph_NextHopIPRouteImpl.h"
 
 #include <cstdlib>
-#include <vector>
 
 #include "OW_CIMQualifier.hpp"
 #include "OW_CIMValue.hpp"
@@ -24,7 +23,6 @@ const char* const kLoadedIfName = "ppp0";
 const char* const kBareInterface = "ppp";
 const char* const kWriteQualifier = "Write";
 const char* const kAddRouteScript = "/opt/etc/RasProviderScripts/addRoute";
-constexpr int kStatusInvalidMask = 17;
 
 // Malformed address; element already present at that index (the code characters 4 and 5).
 const char kInvalidAddress[] = {'#', 4, '#', 0};
@@ -171,11 +169,16 @@ int Zeph_NextHopIPRouteImpl::getDestinationMask(std::string& value, Qualifiers&)
   return kStatusOk;
 }
 
+// A mask that IsMaskValid refuses, or that would not stay data in the route file or in the
+// sed edits of it, is refused before anything is written.
+int Zeph_NextHopIPRoute::maskStatus(const std::string& mask) {
+  return isSettableMask(mask) ? kStatusOk : kStatusInvalidMask;
+}
+
 int Zeph_NextHopIPRouteImpl::setDestinationMask(std::string value) {
   platformLogDebug(kMaskSetter.traceLog);
-  std::vector<char> copy(value.begin(), value.end());
-  copy.push_back('\0');
-  if (IsMaskValid(copy.data()) == 0) return kStatusInvalidMask;
+  const int status = maskStatus(value);
+  if (status != kStatusOk) return status;
   if (writeElement(kMaskSetter, index_, value)) destinationMask_ = value;
   return kStatusOk;
 }

@@ -16,7 +16,7 @@ const ras::PropertyTable<X>& Zeph_NextHopIPRouteTraits::properties() {
       Row::readonly("ElementName", &X::getElementName),
       Row::readonly("DestinationAddress", &X::getDestinationAddress),
       Row::writable("DestinationMask", &X::getDestinationMask, &X::setDestinationMask,
-                    ras::maxLength(32)),
+                    ras::maxLength(32, &X::maskStatus)),
       Row::writable("RouteMetric", &X::getRouteMetric, &X::setRouteMetric),
       Row::readonly("IfName", &X::getIfName),
   };
