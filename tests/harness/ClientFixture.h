@@ -179,7 +179,6 @@ class ClientTest : public ApplianceTest {
   OpenWBEM::IntrusiveReference<Zeph_RASProvider> provider_;
   Lines initJournal_;  // what the module ran while it was initialised
 
- private:
   // The module's dial session flags and account check, as a freshly loaded module has them.
   static void resetSession() {
     ConnectionStatus = DialOutConnectionStatus = false;

@@ -24,6 +24,7 @@ TEST(CommandRunnerTest, ValuesLandAsTheyAreAsOneQuotedWordOrNotAtAll) {
       {{sed, {"/bin/sed", "1/e reboot", "/f"}}, ""},  // would end the s part
       {{sed, {"/bin/sed", "$(id)", "/f"}}, ""},       // inert to sed, not to a sourcing script
       {{sed, {"/bin/sed", "a\\", "/f"}}, ""},
+      {{sed, {"/bin/sed", "255.0.0.0 ", "/f"}}, "/bin/sed -i 's/^x=.*/x=\"255.0.0.0 \"/' /f"},
       {{except, {"ppp0\\"}}, ""},  // would escape the closing quote
       {{"%s %s", {"/hup", "ppp0\rreboot"}}, ""},
       {{"%s %s", {"/hup", "ppp0\treboot"}}, ""},
