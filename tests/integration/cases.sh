@@ -377,6 +377,7 @@ case_modem_serial
 case_ipaddress
 case_routes
 case_hostile
+case_resting
 case_malformed
 case_restart
 case_load

@@ -33,6 +33,44 @@ case_hostile() {
   check "alive after hostile requests" "yes" "$(cimom_alive && echo yes)"
 }
 
+# Values that would become code where they come to rest. A payload after a mask that
+# inet_aton takes is refused on create and on modify, nothing run and the route file as it
+# was; a trailing blank is inert there and is written. Afterwards bash runs the route file
+# and sources the dial scripts' declarations, as the appliance does, and no payload runs.
+case_resting() {
+  marker=/tmp/pwned
+  rm -f "$marker"
+  route_file=/qv/etc/ppp/ip_up_add_v2k
+  routes=$(cat "$route_file")
+  new_route='Zeph_NextHopIPRoute.InstanceID="10.8.11.0"'
+  newline='
+'
+  for payload in "\$(touch $marker)" "\`touch $marker\`" "\";touch $marker;\"" \
+    "${newline}touch $marker"; do
+    journal_clear
+    check "ci: mask with a payload refused" "(1) CIM_ERR_FAILED" "$(cim_error ci "$new_route" \
+      "InstanceID=\"10.8.11.0\",DestinationAddress=\"10.8.11.0\",DestinationMask=\"255.255.0.0 $payload\",RouteMetric=1" |
+      cut -d: -f1)"
+    check "mi: mask with a payload refused" "(1) CIM_ERR_FAILED" \
+      "$(cim_error mi "$ROUTE1" "DestinationMask=255.255.0.0 $payload" | cut -d: -f1)"
+    # The getters a modify starts with read the interfaces; nothing edits or installs.
+    check "refused masks ran nothing" 0 \
+      "$(journal | grep -c -e 'sed ' -e RasProviderScripts -e pwned)"
+    check "refused masks left the route file" "$routes" "$(cat "$route_file")"
+  done
+  wbem mi "$ROUTE1" "DestinationMask=255.255.255.0 " >/dev/null
+  check "mi: a trailing blank is written" 1 \
+    "$(grep -c -F "	NETMASK[0]=\"255.255.255.0 \" \\" "$route_file")"
+  wbem mi "$ROUTE1" "DestinationMask=255.255.0.0" >/dev/null
+  for script in "$route_file" /qv/etc/ppp/ppp_call_v2k /qv/etc/ppp/callback_v2k \
+    /qv/etc/ppp/mgetty_v2k /qv/etc/ppp/ppp_add_v2k /qv/etc/ppp/pppd_addo_v2k; do
+    check "declarations of $script run cleanly" "" \
+      "$(bash -c "eval \"\$(grep -E '^[[:space:]]*(declare|	[A-Z]+\[)' $script)\"" 2>&1)"
+  done
+  bash "$route_file" >/dev/null 2>&1
+  check "no payload ran later" "no" "$(test -e "$marker" && echo yes || echo no)"
+}
+
 # The code part of the CIM error wbemcli prints, "(6) CIM_ERR_NOT_FOUND"; "served" when the
 # request succeeded.
 error_code() {
