@@ -2,7 +2,8 @@
 # serve.sh: scripts/serve from the host, as a user runs it. Started in the background, it
 # prints a URL that wbemcli on the host reaches; SIGTERM stops it, and every process it
 # started (the launcher, bwrap, owcimomd) is gone afterwards; a change made through it stays
-# in its --state directory, and a second run with --for serves it and ends by itself.
+# in its --state directory, and a second run with --for serves it and ends by itself; then
+# scripts/demo, the tour through it.
 # Prints "ok"/"not ok" lines and a count; exits 1 on a failure. Needs OPENWBEM_PREFIX and
 # RAS_BUILD_DIR (a build against it).
 set -u
@@ -100,5 +101,15 @@ if start_serve "$work/second.log" --state "$work/state" --for 4; then
 else
   check "second run printed its URL" "yes" "no"
 fi
+
+# The tour through serve: every class listed and read, the change made, its command lines.
+demo=$("$project/scripts/demo" --no-build 2>&1)
+check "demo exit status" "0" "$?"
+check "demo reads every class" "10" "$(echo "$demo" | grep -c '^=== wbemcli ein, then gi of each: ')"
+check "demo change" '8:declare -r NUMBER_OF_RINGS="7"' \
+  "$(echo "$demo" | sed -n '/^=== after the change/{n;p;}')"
+check "demo journal" \
+  "$(printf '%s\n' "/bin/sed -i '/^declare -r NUMBER_OF_RINGS/ c declare -r NUMBER_OF_RINGS=\"7\"' /qv/etc/ppp/mgetty_v2k" 'killall -9 mgetty' 'init q')" \
+  "$(echo "$demo" | sed '1,/^=== journal/d')"
 
 checks_report
