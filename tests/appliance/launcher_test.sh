@@ -55,6 +55,11 @@ echo seen >"$outside/file"
   { rm -rf "$outside"; fail "a host directory under /var is not visible"; }
 rm -rf "$outside"
 [ ! -e "$work/state/rootfs/var/tmp" ] || fail "mount point left in the state"
+# Its own network unless --share-net (for a server inside that host clients reach).
+host_net=$(readlink /proc/self/ns/net)
+[ "$("$run" -- readlink /proc/self/ns/net)" != "$host_net" ] || fail "the host's network is shared"
+[ "$("$run" --share-net -- readlink /proc/self/ns/net)" = "$host_net" ] ||
+  fail "--share-net did not share the host's network"
 status=0
 "$run" -- sh -c 'exit 7' || status=$?
 [ "$status" = 7 ] || fail "exit status not passed on: $status"
