@@ -126,18 +126,22 @@ void runDi(Request& r, const Words&) {
 void runCi(Request& r, const Words& a) {
   CIMInstance inst(r.path.getClassName());
   inst.setProperties(r.path.getKeys());
+  inst.setKeys(r.path.getKeys());
   for (const CIMProperty& p : propertiesOf(r, a, 0)) inst.setProperty(p);
   addPaths(r, CIMObjectPathArray(1, r.cimom.createInstance(r.ns, inst)), Outcome::kPath);
 }
 
 // As wbemcli does: the instance read, with the given values put in, sent whole. With
-// --named-only: the keys and the given properties, with the list of their names.
+// --named-only: the keys and the given properties, with the list of their names (the CIMOM
+// drops what the list does not name, keys included).
 void runMi(Request& r, const Words& a) {
   const CIMPropertyArray given = propertiesOf(r, a, 0);
   if (r.namedOnly) {
     CIMInstance inst(r.path.getClassName());
     inst.setProperties(r.path.getKeys());
+    inst.setKeys(r.path.getKeys());
     StringArray names;
+    for (const CIMProperty& key : r.path.getKeys()) names.push_back(key.getName());
     for (const CIMProperty& p : given) {
       inst.setProperty(p);
       names.push_back(p.getName());
