@@ -83,8 +83,7 @@ class HostileCimInput : public HostileTest {
                       return modify(target, {{"Reboot", text("now")}});
                     },
                     -1});
-    for (const OpenWBEM::CIMProperty& property :
-         schemaClass(target.className).getAllProperties()) {
+    for (const OpenWBEM::CIMProperty& property : schemaClass(target.className).getAllProperties()) {
       if (!hasQualifier(property, "Write")) continue;
       const std::string propertyName = property.getName().c_str();
       const std::string prop = name + "." + propertyName;
