@@ -1,5 +1,4 @@
-// Options.hpp: ras-cim's command line: where the module, schema and account list are, how
-// to log and print, and the operations to run (one from the arguments, or a batch).
+// Options.hpp: what the command line asks ras-cim to do.
 #ifndef RAS_HOST_OPTIONS_HPP
 #define RAS_HOST_OPTIONS_HPP
 
@@ -9,22 +8,16 @@
 namespace rascim {
 
 struct Options {
-  std::string modulePath;
-  std::string mofPath;
-  std::string accountsFile;
-  std::string nameSpace;
-  std::string logFile;  // empty: standard error
+  std::string modulePath;    // the provider library the CIMOM loads
+  std::string mofPath;       // a MOF file or a directory of them, compiled into the repository
+  std::string accountsFile;  // the appliance's accounts, put in as Zeph_Account instances
+  std::string nameSpace;     // for paths that name none
+  std::string logFile;       // empty: standard error
   std::string logLevel;
+  std::string batchFile;  // "-": standard input; empty: one operation from `words`
   bool json = false;
-  bool help = false;
-  std::string batchFile;           // "-" for standard input; empty: one operation
-  std::vector<std::string> words;  // the one operation: verb and arguments
+  std::vector<std::string> words;
 };
-
-// Throws std::invalid_argument for an unknown option or a missing value.
-Options parseOptions(int argc, const char* const* argv);
-
-std::string helpText();
 
 }  // namespace rascim
 

@@ -27,8 +27,9 @@ struct Outcome {
 
   std::string verb;
   Shape shape = kNothing;
-  std::vector<OpenWBEM::CIMInstance> instances;  // kInstances, kInstance (one)
-  std::vector<OpenWBEM::CIMObjectPath> paths;    // kPaths, kPath (one)
+  std::vector<OpenWBEM::CIMInstance> instances;        // kInstances, kInstance (one)
+  std::vector<OpenWBEM::CIMObjectPath> instancePaths;  // each instance's path, from its class
+  std::vector<OpenWBEM::CIMObjectPath> paths;          // kPaths, kPath (one)
   OpenWBEM::CIMValue returnValue{OpenWBEM::CIMNULL};
   OpenWBEM::CIMParamValueArray outParams;
 

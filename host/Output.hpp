@@ -6,16 +6,14 @@
 #include <ostream>
 #include <string>
 
-#include "MofSchema.hpp"
 #include "Outcome.hpp"
 
 namespace rascim {
 
-void printText(const Outcome& outcome, const MofSchema& schema, std::ostream& out,
-               std::ostream& err);
+void printText(const Outcome& outcome, std::ostream& out, std::ostream& err);
 
 // One JSON object, without a trailing newline.
-std::string toJson(const Outcome& outcome, const MofSchema& schema);
+std::string toJson(const Outcome& outcome);
 
 }  // namespace rascim
 

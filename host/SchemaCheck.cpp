@@ -1,79 +1,91 @@
-// SchemaCheck.cpp: the schema agreement checks.
+// SchemaCheck.cpp: comparison of returned instances, paths and values with their classes.
 #include "SchemaCheck.hpp"
 
-#include "CimText.hpp"
-#include "OW_Array.hpp"
+#include <set>
+
+#include "OW_CIMException.hpp"
 #include "OW_CIMInstance.hpp"
+#include "OW_CIMMethod.hpp"
 #include "OW_CIMObjectPath.hpp"
 #include "OW_CIMProperty.hpp"
 #include "OW_CIMValue.hpp"
-#include "OW_String.hpp"
 
 using namespace OpenWBEM;
 
 namespace rascim {
 namespace {
 
-const MofClass* declaredClass(const std::string& name, const MofSchema& schema,
-                              std::vector<std::string>& problems) {
-  const MofClass* cls = schema.findClass(name);
-  if (!cls)
-    problems.push_back("class " + name + " is not declared in the schema");
-  else if (cls->name != name)
-    problems.push_back("class " + name + " is declared as " + cls->name);
-  return cls;
+std::string text(const String& s) {
+  return s.c_str();
 }
 
-// Checks one named value against the class; `what` is "property" or "key".
-void checkValue(const MofClass& cls, const std::string& what, const std::string& name,
-                const CIMValue& value, std::vector<std::string>& problems) {
-  const MofProperty* p = cls.findProperty(name);
-  const std::string where = cls.name + "." + name;
-  if (!p) {
-    problems.push_back(what + " " + where + " is not declared in the schema");
-    return;
-  }
-  if (p->name != name) problems.push_back(what + " " + where + " is declared as " + p->name);
-  if (what == "key" && !p->isKey()) problems.push_back(where + " is not declared as a key");
-  if (value && valueTypeName(value) != typeName(p->type))
-    problems.push_back(what + " " + where + " is " + valueTypeName(value) + ", declared " +
-                       typeName(p->type));
+std::string upper(String s) {
+  return text(s.toUpperCase());
+}
+
+// "uint16", "string[]", ...; a null value has no type to disagree with.
+bool sameType(const CIMValue& value, const CIMDataType& type) {
+  return !value || (value.getType() == type.getType() && value.isArray() == type.isArrayType());
+}
+
+std::string typeText(const CIMValue& value) {
+  return text(CIMDataType(value.getType()).toString()) + (value.isArray() ? "[]" : "");
+}
+
+std::set<std::string> upperNames(const CIMPropertyArray& properties) {
+  std::set<std::string> names;
+  for (const CIMProperty& p : properties) names.insert(upper(p.getName()));
+  return names;
 }
 
 }  // namespace
 
-std::vector<std::string> checkInstance(const CIMInstance& instance, const MofSchema& schema) {
-  std::vector<std::string> problems;
-  const MofClass* cls = declaredClass(instance.getClassName().c_str(), schema, problems);
-  if (!cls) return problems;
-  const CIMPropertyArray props = instance.getProperties();
-  for (size_t i = 0; i < props.size(); ++i)
-    checkValue(*cls, "property", props[i].getName().c_str(), props[i].getValue(), problems);
-  return problems;
+CIMClass SchemaCheck::declared(const String& className, Problems& problems) {
+  const std::string key = upper(className);
+  auto found = classes_.find(key);
+  if (found == classes_.end()) {
+    CIMClass cls(CIMNULL);
+    try {
+      cls = cimom_.getClass(ns_, className);
+    } catch (const CIMException&) {
+    }
+    found = classes_.emplace(key, cls).first;
+  }
+  if (!found->second) problems.push_back(text(className) + ": class not declared");
+  return found->second;
 }
 
-std::vector<std::string> checkPath(const CIMObjectPath& path, const MofSchema& schema) {
-  std::vector<std::string> problems;
-  const MofClass* cls = declaredClass(path.getClassName().c_str(), schema, problems);
-  if (!cls) return problems;
-  const CIMPropertyArray keys = path.getKeys();
-  for (size_t i = 0; i < keys.size(); ++i)
-    checkValue(*cls, "key", keys[i].getName().c_str(), keys[i].getValue(), problems);
-  for (const MofProperty* key : cls->keys())
-    if (!path.getKey(CIMName(key->name.c_str())))
-      problems.push_back("path of " + cls->name + " lacks the key " + key->name);
-  return problems;
+CIMObjectPath SchemaCheck::instance(const CIMInstance& instance, Problems& problems) {
+  CIMObjectPath path(instance.getClassName(), ns_);
+  const CIMClass cls = declared(instance.getClassName(), problems);
+  if (!cls) return path;
+  for (const CIMProperty& key : cls.getKeys())
+    path.setKeyValue(key.getName(), instance.getPropertyValue(key.getName()));
+  for (const CIMProperty& p : instance.getProperties()) {
+    const std::string where = text(instance.getClassName()) + "." + text(p.getName());
+    const CIMProperty d = cls.getProperty(p.getName());
+    if (!d)
+      problems.push_back(where + ": property not declared");
+    else if (!sameType(p.getValue(), d.getDataType()))
+      problems.push_back(where + ": " + typeText(p.getValue()) + " value, declared " +
+                         text(d.getDataType().toString()));
+  }
+  return path;
 }
 
-std::vector<std::string> checkReturn(const std::string& className, const std::string& method,
-                                     const CIMValue& value, const MofSchema& schema) {
-  std::vector<std::string> problems;
-  const MofClass* cls = schema.findClass(className);
-  const MofMethod* m = cls ? cls->findMethod(method) : nullptr;
-  if (m && value && valueTypeName(value) != typeName(m->returnType))
-    problems.push_back("method " + cls->name + "." + m->name + " returned " + valueTypeName(value) +
-                       ", declared " + typeName(m->returnType));
-  return problems;
+void SchemaCheck::path(const CIMObjectPath& path, Problems& problems) {
+  const CIMClass cls = declared(path.getClassName(), problems);
+  if (cls && upperNames(path.getKeys()) != upperNames(cls.getKeys()))
+    problems.push_back(text(path.modelPath()) + ": not the keys of " + text(cls.getName()));
+}
+
+void SchemaCheck::returnValue(const CIMObjectPath& target, const std::string& method,
+                              const CIMValue& value, Problems& problems) {
+  const CIMClass cls = declared(target.getClassName(), problems);
+  const CIMMethod m = cls ? cls.getMethod(method.c_str()) : CIMMethod(CIMNULL);
+  if (m && !sameType(value, m.getReturnType()))
+    problems.push_back(text(cls.getName()) + "." + method + ": returns " + typeText(value) +
+                       ", declared " + text(m.getReturnType().toString()));
 }
 
 }  // namespace rascim

@@ -1,225 +1,254 @@
 // Verbs.cpp: argument handling of each verb, and the conversion of every failure into the
-// outcome.
+// outcome. Paths are parsed by CIMObjectPath::parse; values are typed from the class the
+// repository holds; what a request means is up to the CIMOM.
 #include "Verbs.hpp"
 
 #include <algorithm>
 
-#include "CimBuild.hpp"
+#include "Bindings.hpp"
+#include "OW_CIMClass.hpp"
 #include "OW_CIMException.hpp"
-#include "OW_CIMInstance.hpp"
+#include "OW_CIMMethod.hpp"
+#include "OW_CIMParameter.hpp"
 #include "OW_CIMProperty.hpp"
-#include "PathSyntax.hpp"
 #include "SchemaCheck.hpp"
 
 using namespace OpenWBEM;
+using namespace OpenWBEM::WBEMFlags;
 
 namespace rascim {
 namespace {
 
 using Words = std::vector<std::string>;
 
-const char kNamedOnly[] = "--named-only";
-using Handler = void (*)(VerbContext&, const Words&, Outcome&);
+struct Request {
+  CIMOMHandleIFC& cimom;
+  String ns;  // of the path, or the default
+  CIMObjectPath path;
+  bool namedOnly;  // mi --named-only
+  Outcome& outcome;
+};
+using Handler = void (*)(Request&, const Words&);
 
 struct Verb {
   const char* name;
   const char* arguments;
   const char* purpose;
+  size_t least, most;  // arguments besides the path
+  bool pathLast;       // the association verbs: options first
   Handler run;
 };
 
-struct Target {
-  String ns;
-  CIMObjectPath path;
-  PathText text;
-};
+const char kNamedOnly[] = "--named-only";
+const char kUrlMark[] = "://";
 
-Target target(const VerbContext& c, const std::string& word) {
-  Target t{"", CIMObjectPath(), parsePath(word)};
-  t.ns = (t.text.nameSpace.empty() ? c.defaultNamespace : t.text.nameSpace).c_str();
-  t.path = buildPath(t.text, c.schema);
-  return t;
+// wbemcli accepts a URL in front of the path; the CIMOM is this process, so it is dropped.
+// A path without a namespace gets the default one (CIMObjectPath::parse would take "root").
+// A class path has no keys, which CIMObjectPath::parse refuses: its name is taken as it is.
+CIMObjectPath parsePath(const std::string& word, const std::string& defaultNs) {
+  std::string text = word;
+  const size_t url = text.find(kUrlMark);
+  if (url != std::string::npos && url < text.find('"')) {
+    const size_t slash = text.find('/', url + sizeof kUrlMark - 1);
+    text = slash == std::string::npos ? "" : text.substr(slash + 1);
+  }
+  const size_t colon = text.find(':');
+  if (colon == std::string::npos || colon > text.find_first_of(".\""))
+    text = defaultNs + ":" + text;
+  const size_t dot = text.find('.');
+  if (dot == std::string::npos) {
+    const size_t at = text.rfind(':');
+    return CIMObjectPath(text.substr(at + 1).c_str(), text.substr(0, at).c_str());
+  }
+  try {
+    return CIMObjectPath::parse(text.c_str());
+  } catch (const Exception& e) {
+    throw UsageError("not an object path: " + word + " (" + e.getMessage() + ")");
+  }
 }
 
-void expectCount(const Words& args, size_t least, size_t most, const char* verb) {
-  if (args.size() < least || args.size() > most)
-    throw UsageError(std::string("wrong number of arguments for ") + verb + " (see --help)");
+CIMClass classOf(Request& r) {
+  return r.cimom.getClass(r.ns, r.path.getClassName(), E_NOT_LOCAL_ONLY, E_INCLUDE_QUALIFIERS);
 }
 
-std::vector<Binding> bindingsOf(const Words& args, size_t first) {
-  std::vector<Binding> out;
-  for (size_t i = first; i < args.size(); ++i)
-    for (Binding& b : parseBindings(args[i])) out.push_back(std::move(b));
+// The given properties, typed from the class (a property it does not declare stays text).
+CIMPropertyArray propertiesOf(Request& r, const Words& a, size_t first) {
+  const CIMClass cls = classOf(r);
+  CIMPropertyArray out;
+  for (size_t i = first; i < a.size(); ++i)
+    for (const Binding& b : parseBindings(a[i])) {
+      const CIMProperty declared = cls.getProperty(b.name.c_str());
+      const CIMDataType type = declared ? declared.getDataType() : CIMDataType();
+      out.push_back(CIMProperty(b.name.c_str(), typedValue(b, type)));
+    }
   return out;
 }
 
-void addInstances(Outcome& o, const CIMInstanceArray& all, const MofSchema& schema) {
-  o.shape = Outcome::kInstances;
-  for (size_t i = 0; i < all.size(); ++i) {
-    o.instances.push_back(all[i]);
-    for (std::string& p : checkInstance(all[i], schema)) o.schemaErrors.push_back(std::move(p));
+void addInstances(Request& r, const CIMInstanceArray& all, Outcome::Shape shape) {
+  r.outcome.shape = shape;
+  SchemaCheck check(r.cimom, r.ns);
+  for (const CIMInstance& i : all) {
+    r.outcome.instances.push_back(i);
+    r.outcome.instancePaths.push_back(check.instance(i, r.outcome.schemaErrors));
   }
 }
 
-void addPaths(Outcome& o, const CIMObjectPathArray& all, const MofSchema& schema) {
-  o.shape = Outcome::kPaths;
-  for (size_t i = 0; i < all.size(); ++i) {
-    o.paths.push_back(all[i]);
-    for (std::string& p : checkPath(all[i], schema)) o.schemaErrors.push_back(std::move(p));
+void addPaths(Request& r, const CIMObjectPathArray& all, Outcome::Shape shape) {
+  r.outcome.shape = shape;
+  SchemaCheck check(r.cimom, r.ns);
+  for (const CIMObjectPath& p : all) {
+    r.outcome.paths.push_back(p);
+    check.path(p, r.outcome.schemaErrors);
   }
 }
 
-void runEin(VerbContext& c, const Words& a, Outcome& o) {
-  expectCount(a, 1, 1, "ein");
-  const Target t = target(c, a[0]);
-  addPaths(o, c.cimom.enumInstanceNames(t.ns, t.text.className.c_str()), c.schema);
+void runEin(Request& r, const Words&) {
+  addPaths(r, r.cimom.enumInstanceNamesA(r.ns, r.path.getClassName()), Outcome::kPaths);
 }
 
-void runEi(VerbContext& c, const Words& a, Outcome& o) {
-  expectCount(a, 1, 1, "ei");
-  const Target t = target(c, a[0]);
-  addInstances(o, c.cimom.enumInstances(t.ns, t.text.className.c_str()), c.schema);
+void runEi(Request& r, const Words&) {
+  addInstances(r,
+               r.cimom.enumInstancesA(r.ns, r.path.getClassName(), E_DEEP, E_NOT_LOCAL_ONLY,
+                                      E_INCLUDE_QUALIFIERS),
+               Outcome::kInstances);
 }
 
-void runGi(VerbContext& c, const Words& a, Outcome& o) {
-  expectCount(a, 1, 1, "gi");
-  const Target t = target(c, a[0]);
-  CIMInstanceArray one;
-  one.push_back(c.cimom.getInstance(t.ns, t.path));
-  addInstances(o, one, c.schema);
-  o.shape = Outcome::kInstance;
+void runGi(Request& r, const Words&) {
+  const CIMInstance one = r.cimom.getInstance(r.ns, r.path, E_NOT_LOCAL_ONLY, E_INCLUDE_QUALIFIERS);
+  addInstances(r, CIMInstanceArray(1, one), Outcome::kInstance);
 }
 
-void runDi(VerbContext& c, const Words& a, Outcome&) {
-  expectCount(a, 1, 1, "di");
-  const Target t = target(c, a[0]);
-  c.cimom.deleteInstance(t.ns, t.path);
+void runDi(Request& r, const Words&) {
+  r.cimom.deleteInstance(r.ns, r.path);
 }
 
-void runCi(VerbContext& c, const Words& a, Outcome& o) {
-  expectCount(a, 1, ~size_t(0), "ci");
-  const Target t = target(c, a[0]);
-  std::vector<Binding> values = t.text.keys;
-  for (Binding& b : bindingsOf(a, 1)) values.push_back(std::move(b));
-  const CIMInstance inst = buildInstance(t.text.className, values, c.schema, true);
-  CIMObjectPathArray created;
-  created.push_back(c.cimom.createInstance(t.ns, inst));
-  addPaths(o, created, c.schema);
-  o.shape = Outcome::kPath;
+// The keys from the path and the given values.
+void runCi(Request& r, const Words& a) {
+  CIMInstance inst(r.path.getClassName());
+  inst.setProperties(r.path.getKeys());
+  inst.setKeys(r.path.getKeys());
+  for (const CIMProperty& p : propertiesOf(r, a, 0)) inst.setProperty(p);
+  addPaths(r, CIMObjectPathArray(1, r.cimom.createInstance(r.ns, inst)), Outcome::kPath);
 }
 
-// As wbemcli does: read the instance, put the given values in, and send it whole (every
-// writable property reaches the provider). With --named-only, only the keys and the given
-// properties, with the list of their names.
-void runMi(VerbContext& c, const Words& a, Outcome&) {
-  Words args = a;
-  const auto flag = std::find(args.begin(), args.end(), kNamedOnly);
-  const bool namedOnly = flag != args.end();
-  if (namedOnly) args.erase(flag);
-  expectCount(args, 2, ~size_t(0), "mi");
-  const Target t = target(c, args[0]);
-  const std::vector<Binding> changes = bindingsOf(args, 1);
-  if (namedOnly) {
-    std::vector<Binding> values = t.text.keys;
-    values.insert(values.end(), changes.begin(), changes.end());
-    StringArray propertyList;
-    for (const Binding& b : changes) propertyList.push_back(b.name.c_str());
-    c.cimom.modifyInstance(t.ns, t.path, buildInstance(t.text.className, values, c.schema, false),
-                           &propertyList);
+// As wbemcli does: the instance read, with the given values put in, sent whole. With
+// --named-only: the keys and the given properties, with the list of their names (the CIMOM
+// drops what the list does not name, keys included).
+void runMi(Request& r, const Words& a) {
+  const CIMPropertyArray given = propertiesOf(r, a, 0);
+  if (r.namedOnly) {
+    CIMInstance inst(r.path.getClassName());
+    inst.setProperties(r.path.getKeys());
+    inst.setKeys(r.path.getKeys());
+    StringArray names;
+    for (const CIMProperty& key : r.path.getKeys()) names.push_back(key.getName());
+    for (const CIMProperty& p : given) {
+      inst.setProperty(p);
+      names.push_back(p.getName());
+    }
+    r.cimom.modifyInstance(r.ns, inst, E_EXCLUDE_QUALIFIERS, &names);
     return;
   }
-  const CIMInstance given = buildInstance(t.text.className, changes, c.schema, false);
-  CIMInstance whole = c.cimom.getInstance(t.ns, t.path);
-  for (const CIMProperty& p : given.getProperties()) whole.setProperty(p);
-  c.cimom.modifyInstance(t.ns, t.path, whole, nullptr);
+  CIMInstance whole = r.cimom.getInstance(r.ns, r.path);
+  for (const CIMProperty& p : given) whole.setProperty(p);
+  r.cimom.modifyInstance(r.ns, whole, E_EXCLUDE_QUALIFIERS, nullptr);
 }
 
-// "Method" or "Method.Param=value,..." followed by more "Param=value" words.
-void runCm(VerbContext& c, const Words& a, Outcome& o) {
-  expectCount(a, 2, ~size_t(0), "cm");
-  const Target t = target(c, a[0]);
-  const size_t dot = a[1].find('.');
-  const std::string method = a[1].substr(0, dot);
-  std::vector<Binding> values =
-      dot == std::string::npos ? std::vector<Binding>() : parseBindings(a[1].substr(dot + 1));
-  for (Binding& b : bindingsOf(a, 2)) values.push_back(std::move(b));
-  MethodParams params = buildMethodParams(t.text.className, method, values, c.schema);
-  o.returnValue = c.cimom.invokeMethod(t.ns, t.path, method.c_str(), params.in, params.out);
-  o.outParams = params.out;
-  o.shape = Outcome::kMethodResult;
-  o.schemaErrors = checkReturn(t.text.className, method, o.returnValue, c.schema);
-}
-
-// Splits the -ac/-arc/-ar/-arr options off; what remains must be one object path.
-std::string associationArgs(const Words& a, const char* verb, bool references,
-                            AssociationFilter& f) {
-  Words rest;
-  for (size_t i = 0; i < a.size(); ++i) {
-    const std::string& w = a[i];
-    const bool option = w == "-ac" || w == "-arc" || w == "-ar" || w == "-arr";
-    if (!option) {
-      rest.push_back(w);
-      continue;
+// "Method" or "Method.Param=value,..." followed by more "Param=value" words; each value
+// typed as the class declares the parameter.
+void runCm(Request& r, const Words& a) {
+  const size_t dot = a[0].find('.');
+  const std::string method = a[0].substr(0, dot);
+  Words lists(a.begin() + 1, a.end());
+  if (dot != std::string::npos) lists.push_back(a[0].substr(dot + 1));
+  const CIMMethod declared = classOf(r).getMethod(method.c_str());
+  CIMParamValueArray in, out;
+  for (const std::string& list : lists)
+    for (const Binding& b : parseBindings(list)) {
+      CIMDataType type;
+      for (const CIMParameter& p : declared ? declared.getParameters() : CIMParameterArray())
+        if (p.getName().equalsIgnoreCase(b.name.c_str())) type = p.getType();
+      in.push_back(CIMParamValue(b.name.c_str(), typedValue(b, type)));
     }
+  r.outcome.returnValue = r.cimom.invokeMethod(r.ns, r.path, method.c_str(), in, out);
+  r.outcome.outParams = out;
+  r.outcome.shape = Outcome::kMethodResult;
+  SchemaCheck(r.cimom, r.ns)
+      .returnValue(r.path, method, r.outcome.returnValue, r.outcome.schemaErrors);
+}
+
+// The association filters: -ac, -arc, -ar, -arr, each followed by a value.
+struct Filters {
+  String assocClass, resultClass, role, resultRole;
+};
+
+Filters filtersOf(const Words& a, bool references) {
+  Filters f;
+  for (size_t i = 0; i < a.size(); i += 2) {
+    const std::string& w = a[i];
     if (i + 1 >= a.size()) throw UsageError(w + " needs a value");
-    const std::string& v = a[++i];
-    if (w == "-ac" || (references && w == "-arc"))
+    const String v = a[i + 1].c_str();
+    if (w == "-ac" && !references)
       f.assocClass = v;
     else if (w == "-arc")
-      f.resultClass = v;
+      (references ? f.assocClass : f.resultClass) = v;
     else if (w == "-ar")
       f.role = v;
-    else if (!references)
+    else if (w == "-arr" && !references)
       f.resultRole = v;
     else
-      throw UsageError(std::string("-arr is not an option of ") + verb);
+      throw UsageError("not an option here: " + w);
   }
-  expectCount(rest, 1, 1, verb);
-  return rest[0];
+  return f;
 }
 
-void runAi(VerbContext& c, const Words& a, Outcome& o) {
-  AssociationFilter f;
-  const Target t = target(c, associationArgs(a, "ai", false, f));
-  addInstances(o, c.cimom.associators(t.ns, t.path, f), c.schema);
+void runAi(Request& r, const Words& a) {
+  const Filters f = filtersOf(a, false);
+  addInstances(r,
+               r.cimom.associatorsA(r.ns, r.path, f.assocClass, f.resultClass, f.role, f.resultRole,
+                                    E_INCLUDE_QUALIFIERS),
+               Outcome::kInstances);
 }
 
-void runAin(VerbContext& c, const Words& a, Outcome& o) {
-  AssociationFilter f;
-  const Target t = target(c, associationArgs(a, "ain", false, f));
-  addPaths(o, c.cimom.associatorNames(t.ns, t.path, f), c.schema);
+void runAin(Request& r, const Words& a) {
+  const Filters f = filtersOf(a, false);
+  addPaths(
+      r, r.cimom.associatorNamesA(r.ns, r.path, f.assocClass, f.resultClass, f.role, f.resultRole),
+      Outcome::kPaths);
 }
 
-void runRi(VerbContext& c, const Words& a, Outcome& o) {
-  AssociationFilter f;
-  const Target t = target(c, associationArgs(a, "ri", true, f));
-  addInstances(o, c.cimom.references(t.ns, t.path, f), c.schema);
+void runRi(Request& r, const Words& a) {
+  const Filters f = filtersOf(a, true);
+  addInstances(r, r.cimom.referencesA(r.ns, r.path, f.assocClass, f.role, E_INCLUDE_QUALIFIERS),
+               Outcome::kInstances);
 }
 
-void runRin(VerbContext& c, const Words& a, Outcome& o) {
-  AssociationFilter f;
-  const Target t = target(c, associationArgs(a, "rin", true, f));
-  addPaths(o, c.cimom.referenceNames(t.ns, t.path, f), c.schema);
+void runRin(Request& r, const Words& a) {
+  const Filters f = filtersOf(a, true);
+  addPaths(r, r.cimom.referenceNamesA(r.ns, r.path, f.assocClass, f.role), Outcome::kPaths);
 }
+
+const size_t kAny = ~size_t(0);
+const char kAssocArgs[] = "[-ac ASSOC] [-arc RESULT] [-ar ROLE] [-arr RESULTROLE] PATH";
+const char kRefArgs[] = "[-arc ASSOC] [-ar ROLE] PATH";
 
 const Verb kVerbs[] = {
-    {"ein", "CLASSPATH", "enumerate instance names", runEin},
-    {"ei", "CLASSPATH", "enumerate instances", runEi},
-    {"gi", "PATH", "get an instance", runGi},
+    {"ein", "CLASSPATH", "enumerate instance names", 0, 0, false, runEin},
+    {"ei", "CLASSPATH", "enumerate instances", 0, 0, false, runEi},
+    {"gi", "PATH", "get an instance", 0, 0, false, runGi},
     {"mi", "[--named-only] PATH Name=value[,...] ...",
      "modify an instance: the whole instance read, with the given values (as wbemcli); "
      "--named-only: only the given properties",
-     runMi},
-    {"ci", "PATH [Name=value[,...] ...]", "create an instance (keys from PATH)", runCi},
-    {"di", "PATH", "delete an instance", runDi},
-    {"cm", "PATH Method[.Param=value,...] [Param=value ...]", "invoke a method", runCm},
-    {"ai", "[-ac ASSOC] [-arc RESULT] [-ar ROLE] [-arr RESULTROLE] PATH", "associated instances",
-     runAi},
-    {"ain", "[-ac ASSOC] [-arc RESULT] [-ar ROLE] [-arr RESULTROLE] PATH",
-     "paths of associated instances", runAin},
-    {"ri", "[-arc ASSOC] [-ar ROLE] PATH", "association instances referring to PATH", runRi},
-    {"rin", "[-arc ASSOC] [-ar ROLE] PATH", "paths of association instances referring to PATH",
-     runRin},
+     1, kAny, false, runMi},
+    {"ci", "PATH [Name=value[,...] ...]", "create an instance (keys from PATH)", 0, kAny, false,
+     runCi},
+    {"di", "PATH", "delete an instance", 0, 0, false, runDi},
+    {"cm", "PATH Method[.Param=value,...] [Param=value ...]", "invoke a method", 1, kAny, false,
+     runCm},
+    {"ai", kAssocArgs, "associated instances", 0, 8, true, runAi},
+    {"ain", kAssocArgs, "paths of associated instances", 0, 8, true, runAin},
+    {"ri", kRefArgs, "association instances referring to PATH", 0, 4, true, runRi},
+    {"rin", kRefArgs, "paths of association instances referring to PATH", 0, 4, true, runRin},
 };
 
 const Verb& findVerb(const std::string& name) {
@@ -228,33 +257,36 @@ const Verb& findVerb(const std::string& name) {
   throw UsageError("unknown verb '" + name + "' (see --help)");
 }
 
-void recordCimError(Outcome& o, const CIMException& e) {
-  o.hasCimError = true;
-  o.cimError.code = e.getErrNo();
-  o.cimError.message = e.getDescription() ? e.getDescription() : "";
-  o.cimError.file = e.getFile() ? e.getFile() : "";
-  o.cimError.line = e.getLine();
+// The words of a verb: the path (last for the association verbs, first otherwise) and
+// the rest.
+void run(const Verb& verb, CIMOMHandleIFC& cimom, const std::string& defaultNs, Words args,
+         Outcome& o) {
+  const bool named = verb.run == runMi && !args.empty() && args[0] == kNamedOnly;
+  if (named) args.erase(args.begin());
+  if (args.empty() || args.size() - 1 < verb.least || args.size() - 1 > verb.most)
+    throw UsageError(std::string("wrong number of arguments for ") + verb.name + " (see --help)");
+  const auto at = verb.pathLast ? args.end() - 1 : args.begin();
+  const CIMObjectPath path = parsePath(*at, defaultNs);
+  args.erase(at);
+  Request r{cimom, path.getNameSpace(), path, named, o};
+  verb.run(r, args);
 }
 
 }  // namespace
 
-Outcome runVerb(VerbContext& context, const std::vector<std::string>& words) {
+Outcome runVerb(CIMOMHandleIFC& cimom, const std::string& defaultNamespace, const Words& words) {
   Outcome o;
   o.verb = words.empty() ? "" : words[0];
   try {
     if (words.empty()) throw UsageError("no verb given (see --help)");
-    findVerb(words[0]).run(context, Words(words.begin() + 1, words.end()), o);
+    run(findVerb(words[0]), cimom, defaultNamespace, Words(words.begin() + 1, words.end()), o);
   } catch (const CIMException& e) {
-    recordCimError(o, e);
-  } catch (const OpenWBEM::Exception& e) {
+    o.hasCimError = true;
+    o.cimError = CimError{e.getErrNo(), e.getDescription() ? e.getDescription() : "",
+                          e.getFile() ? e.getFile() : "", e.getLine()};
+  } catch (const Exception& e) {
     o.failure = std::string(e.type()) + ": " + e.getMessage();
   } catch (const UsageError& e) {
-    o.failure = e.what();
-    o.usageError = true;
-  } catch (const SyntaxError& e) {
-    o.failure = e.what();
-    o.usageError = true;
-  } catch (const TypingError& e) {
     o.failure = e.what();
     o.usageError = true;
   } catch (const std::exception& e) {

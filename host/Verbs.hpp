@@ -1,34 +1,20 @@
-// Verbs.hpp: wbemcli's verbs (ein, ei, gi, mi, ci, di, cm, ai, ain, ri, rin): each takes
-// its words, builds the typed request, runs it through the Cimom and returns the outcome,
-// including a CIM error, a mistake in the request or a disagreement with the schema.
+// Verbs.hpp: the wbemcli-style verbs, each turned into one request through the CIMOM handle.
 #ifndef RAS_HOST_VERBS_HPP
 #define RAS_HOST_VERBS_HPP
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "Cimom.hpp"
-#include "MofSchema.hpp"
+#include "OW_CIMOMHandleIFC.hpp"
 #include "Outcome.hpp"
 
 namespace rascim {
 
-class UsageError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
+// Runs one operation ("gi PATH", ...); every failure ends up in the outcome.
+Outcome runVerb(OpenWBEM::CIMOMHandleIFC& cimom, const std::string& defaultNamespace,
+                const std::vector<std::string>& words);
 
-struct VerbContext {
-  Cimom& cimom;
-  const MofSchema& schema;
-  std::string defaultNamespace;
-};
-
-// `words` starts with the verb. Never throws: every failure is in the outcome.
-Outcome runVerb(VerbContext& context, const std::vector<std::string>& words);
-
-// One line per verb: its name, arguments and what it does (for --help).
+// The verbs, their arguments and purpose, for --help.
 std::string verbSynopsis();
 
 }  // namespace rascim

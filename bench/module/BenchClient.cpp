@@ -3,9 +3,8 @@
 
 #include <memory>
 
-#include "AccountHandle.hpp"
-#include "CallEnvironment.hpp"
-#include "MofSchema.hpp"
+#include "AccountHandle.h"
+#include "CallEnvironment.h"
 #include "OW_CIMClass.hpp"
 #include "OW_CIMProperty.hpp"
 #include "OW_Logger.hpp"
@@ -31,15 +30,6 @@ class QuietLogger : public Logger {
   LoggerRef doClone() const override { return new QuietLogger; }
 };
 
-std::shared_ptr<const rascim::MofSchema> schema() {
-  static const auto loaded = [] {
-    auto mof = std::make_shared<rascim::MofSchema>();
-    mof->load(RAS_MOF_DIR);
-    return std::shared_ptr<const rascim::MofSchema>(mof);
-  }();
-  return loaded;
-}
-
 class BenchEnvironment : public TestEnvironment {
  public:
   LoggerRef getLogger() const override { return logger_; }
@@ -50,7 +40,7 @@ class BenchEnvironment : public TestEnvironment {
 
  private:
   LoggerRef logger_{new QuietLogger};
-  CIMOMHandleIFCRef accounts_{new rascim::AccountHandle(kAccountsFile, schema())};
+  CIMOMHandleIFCRef accounts_{new harness::AccountHandle(kAccountsFile)};
 };
 
 const CIMClass kNoClass{CIMNULL};
@@ -75,7 +65,7 @@ void BenchClient::unload() {
 
 void BenchClient::initialize() {
   provider_ = new Zeph_RASProvider;
-  rascim::withCall(env_, [&](const auto& call) { provider_->initialize(call); });
+  harness::withCall(env_, [&](const auto& call) { provider_->initialize(call); });
   QvlNotifySync();
 }
 
@@ -88,7 +78,7 @@ CIMObjectPath BenchClient::pathOf(const Target& target) {
 size_t BenchClient::enumerate(const std::string& className) {
   CIMInstanceArray instances;
   CIMInstanceArrayBuilder result(instances);
-  rascim::withCall(env_, [&](const auto& call) {
+  harness::withCall(env_, [&](const auto& call) {
     provider_->enumInstances(call, kNamespace, className.c_str(), result,
                              WBEMFlags::E_NOT_LOCAL_ONLY, WBEMFlags::E_DEEP,
                              WBEMFlags::E_INCLUDE_QUALIFIERS, WBEMFlags::E_EXCLUDE_CLASS_ORIGIN,
@@ -98,7 +88,7 @@ size_t BenchClient::enumerate(const std::string& className) {
 }
 
 CIMInstance BenchClient::get(const Target& target) {
-  return rascim::withCall(env_, [&](const auto& call) {
+  return harness::withCall(env_, [&](const auto& call) {
     return provider_->getInstance(call, kNamespace, pathOf(target), WBEMFlags::E_NOT_LOCAL_ONLY,
                                   WBEMFlags::E_INCLUDE_QUALIFIERS,
                                   WBEMFlags::E_EXCLUDE_CLASS_ORIGIN, nullptr, kNoClass);
@@ -115,7 +105,7 @@ CIMInstance BenchClient::instanceOf(const Target& target,
 
 void BenchClient::modify(const Target& target, const std::vector<Change>& changes) {
   const CIMInstance instance = instanceOf(target, changes);
-  rascim::withCall(env_, [&](const auto& call) {
+  harness::withCall(env_, [&](const auto& call) {
     provider_->modifyInstance(call, kNamespace, instance, instance, WBEMFlags::E_EXCLUDE_QUALIFIERS,
                               nullptr, kNoClass);
   });
@@ -123,12 +113,12 @@ void BenchClient::modify(const Target& target, const std::vector<Change>& change
 
 void BenchClient::create(const Target& target, const std::vector<Change>& changes) {
   const CIMInstance instance = instanceOf(target, changes);
-  rascim::withCall(
+  harness::withCall(
       env_, [&](const auto& call) { provider_->createInstance(call, kNamespace, instance); });
 }
 
 void BenchClient::remove(const Target& target) {
-  rascim::withCall(
+  harness::withCall(
       env_, [&](const auto& call) { provider_->deleteInstance(call, kNamespace, pathOf(target)); });
 }
 

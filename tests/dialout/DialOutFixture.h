@@ -10,9 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "AccountHandle.hpp"
+#include "AccountHandle.h"
 #include "ClientFixture.h"
-#include "MofSchema.hpp"
 #include "TestEnvironment.h"
 
 inline constexpr char kDialOutClass[] = "Zeph_DialOutSettingData";
@@ -41,15 +40,7 @@ class AccountEnvironment : public TestEnvironment {
   OpenWBEM::ProviderEnvironmentIFCRef clone() const override { return new AccountEnvironment; }
 
  private:
-  static std::shared_ptr<const rascim::MofSchema> schema() {
-    static const auto loaded = [] {
-      auto mof = std::make_shared<rascim::MofSchema>();
-      mof->load(RAS_MOF_DIR);
-      return std::shared_ptr<const rascim::MofSchema>(mof);
-    }();
-    return loaded;
-  }
-  OpenWBEM::CIMOMHandleIFCRef accounts_{new rascim::AccountHandle(kAccountsFile, schema())};
+  OpenWBEM::CIMOMHandleIFCRef accounts_{new harness::AccountHandle(kAccountsFile)};
 };
 
 using client::Change;

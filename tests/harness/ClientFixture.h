@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "ApplianceTest.h"
-#include "CallEnvironment.hpp"
+#include "CallEnvironment.h"
 #include "CimFailure.h"
 #include "OW_Bool.hpp"
 #include "OW_CIMClass.hpp"
@@ -98,7 +98,7 @@ class ClientTest : public ApplianceTest {
   // Runs `body` with the environment of one provider call.
   template <class Body>
   decltype(auto) call(Body body) {
-    return rascim::withCall(env_, body);
+    return harness::withCall(env_, body);
   }
 
   // A fresh dispatcher initialised as a CIMOM does: every instance reads its files again.

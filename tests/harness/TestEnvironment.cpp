@@ -1,7 +1,7 @@
 // The test environment: recording logger and a CIMOM handle that refuses every request.
 #include "TestEnvironment.h"
 
-#include "RefusingHandle.hpp"
+#include "RefusingHandle.h"
 
 using namespace OpenWBEM;
 
@@ -9,4 +9,4 @@ TestEnvironment::TestEnvironment()
     : recorder_(new RecordingLogger(E_ALL_LEVEL, "frame_tests")),
       logger_(recorder_),
       // The frame itself never reads other classes; a test that reached the handle would fail.
-      handle_(new rascim::RefusingHandle(__FILE__, 0, nullptr)) {}
+      handle_(new harness::RefusingHandle(__FILE__, 0, nullptr)) {}

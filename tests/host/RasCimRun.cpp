@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -12,6 +13,7 @@
 namespace {
 
 const char kRasCim[] = RAS_CIM;
+const char kLibraryPath[] = RAS_CIM_LIBRARY_PATH;
 
 std::string slurp(const std::string& path) {
   std::ifstream in(path);
@@ -42,6 +44,7 @@ RasCimResult runRasCim(const std::vector<std::string>& args, const std::string& 
     redirect(in, 0, O_RDONLY);
     redirect(out, 1, O_WRONLY | O_CREAT | O_TRUNC);
     redirect(err, 2, O_WRONLY | O_CREAT | O_TRUNC);
+    setenv("LD_LIBRARY_PATH", kLibraryPath, 1);
     execv(kRasCim, const_cast<char* const*>(argv.data()));
     _exit(127);
   }

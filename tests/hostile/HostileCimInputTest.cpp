@@ -5,7 +5,9 @@
 #include <functional>
 
 #include "HostileFixture.h"
-#include "MofSchema.hpp"
+#include "OW_CIMClass.hpp"
+#include "OW_CIMProperty.hpp"
+#include "SchemaClasses.h"
 
 namespace {
 
@@ -16,26 +18,14 @@ const client::Target* const kTargets[] = {&kCallIn, &kDialOut, &kService,    &kP
 
 const std::string kLong(10 * 1024, '7');
 
+bool isString(const OpenWBEM::CIMProperty& property) {
+  return property.getDataType().getType() == OpenWBEM::CIMDataType::STRING;
+}
+
 // A value of another CIM type than the property's.
-OpenWBEM::CIMValue wronglyTyped(const rascim::MofProperty& property) {
-  if (property.type.name == "string") return OpenWBEM::CIMValue(OpenWBEM::UInt32(5));
-  return text(property.type.name == "boolean" ? "true" : "5");
-}
-
-bool isWritable(const rascim::MofProperty& property) {
-  for (const auto& qualifier : property.qualifiers) {
-    if (rascim::equalsIgnoreCase(qualifier.name, "Write")) return true;
-  }
-  return false;
-}
-
-const rascim::MofClass& mofClass(const char* name) {
-  static const rascim::MofSchema schema = [] {
-    rascim::MofSchema loaded;
-    loaded.load(RAS_MOF_DIR);
-    return loaded;
-  }();
-  return *schema.findClass(name);
+OpenWBEM::CIMValue wronglyTyped(const OpenWBEM::CIMProperty& property) {
+  if (isString(property)) return OpenWBEM::CIMValue(OpenWBEM::UInt32(5));
+  return text(property.getDataType().getType() == OpenWBEM::CIMDataType::BOOLEAN ? "true" : "5");
 }
 
 class HostileCimInput : public HostileTest {
@@ -93,20 +83,21 @@ class HostileCimInput : public HostileTest {
                       return modify(target, {{"Reboot", text("now")}});
                     },
                     -1});
-    for (const rascim::MofProperty& property : mofClass(target.className.c_str()).properties) {
-      if (!isWritable(property)) continue;
-      const std::string prop = name + "." + property.name;
-      const std::vector<Change> wrong = {{property.name, wronglyTyped(property)}};
+    for (const OpenWBEM::CIMProperty& property : schemaClass(target.className).getAllProperties()) {
+      if (!hasQualifier(property, "Write")) continue;
+      const std::string propertyName = property.getName().c_str();
+      const std::string prop = name + "." + propertyName;
+      const std::vector<Change> wrong = {{propertyName, wronglyTyped(property)}};
       const std::vector<Change> array = {
-          {property.name, OpenWBEM::CIMValue(OpenWBEM::StringArray(1, "1"))}};
-      const std::vector<Change> null = {{property.name, OpenWBEM::CIMValue(OpenWBEM::CIMNULL)}};
+          {propertyName, OpenWBEM::CIMValue(OpenWBEM::StringArray(1, "1"))}};
+      const std::vector<Change> null = {{propertyName, OpenWBEM::CIMValue(OpenWBEM::CIMNULL)}};
       rows.push_back({prop + " wrongly typed", [=] { return modify(target, wrong); },
                       CIMException::INVALID_PARAMETER});
       rows.push_back({prop + " array", [=] { return modify(target, array); },
                       CIMException::INVALID_PARAMETER});
       rows.push_back({prop + " null", [=] { return modify(target, null); }, -1});
-      if (property.type.name == "string") {
-        const std::vector<Change> huge = {{property.name, text(kLong)}};
+      if (isString(property)) {
+        const std::vector<Change> huge = {{propertyName, text(kLong)}};
         rows.push_back({prop + " 10 KB", [=] { return modify(target, huge); },
                         CIMException::INVALID_PARAMETER});
       }

@@ -11,7 +11,10 @@
 #include <string>
 #include <vector>
 
-#include "MofSchema.hpp"
+#include "OW_CIMProperty.hpp"
+#include "OW_CIMQualifier.hpp"
+#include "OW_CIMValue.hpp"
+#include "SchemaClasses.h"
 #include "Zeph_CallInSettingDataProvider.h"
 #include "Zeph_DialOutRoutesInstProvider.h"
 #include "Zeph_DialOutSettingDataProvider.h"
@@ -25,8 +28,7 @@
 
 namespace {
 
-using rascim::MofClass;
-using rascim::MofProperty;
+using OpenWBEM::CIMProperty;
 
 // One property as both sides describe it, in comparable form.
 struct Declared {
@@ -72,29 +74,19 @@ Declared expectedRow(const char* className, Declared declared) {
   return declared;
 }
 
-const MofClass& schemaClass(const char* name) {
-  static const rascim::MofSchema schema = [] {
-    rascim::MofSchema s;
-    s.load(RAS_MOF_FILE);
-    return s;
-  }();
-  const MofClass* found = schema.findClass(name);
-  if (found == nullptr) throw std::runtime_error(std::string("not in the schema: ") + name);
-  return *found;
+std::optional<unsigned> number(const CIMProperty& p, const char* qualifier) {
+  const OpenWBEM::CIMQualifier q = p.getQualifier(qualifier);
+  if (!q || !q.getValue()) return std::nullopt;
+  return static_cast<unsigned>(std::stoul(q.getValue().toString().c_str()));
 }
 
-std::optional<unsigned> number(const MofProperty& p, const char* qualifier) {
-  const rascim::MofQualifier* q = rascim::findQualifier(p.qualifiers, qualifier);
-  if (q == nullptr || q->values.empty()) return std::nullopt;
-  return static_cast<unsigned>(std::stoul(q->values[0].text));
-}
-
-Declared fromSchema(const MofProperty& p) {
-  const std::string type = p.type.name == "ref" ? "ref " + p.type.refClass : p.type.name;
-  return {p.name,
-          type,
-          p.isKey(),
-          rascim::findQualifier(p.qualifiers, "Write") != nullptr,
+Declared fromSchema(const CIMProperty& p) {
+  const OpenWBEM::CIMDataType type = p.getDataType();
+  return {p.getName().c_str(),
+          type.isReferenceType() ? "ref " + std::string(type.getRefClassName().c_str())
+                                 : std::string(type.toString().c_str()),
+          hasQualifier(p, "Key"),
+          hasQualifier(p, "Write"),
           number(p, "MaxLen"),
           number(p, "MinValue"),
           number(p, "MaxValue")};
@@ -162,7 +154,7 @@ TYPED_TEST_SUITE(PropertyTableSchema, Providers);
 TYPED_TEST(PropertyTableSchema, RowsMatchTheSchemaInOrderTypeKeyWriteAndLimits) {
   using Traits = typename TypeParam::Traits;
   std::vector<Declared> schema;
-  for (const MofProperty& p : schemaClass(Traits::kClass).properties) {
+  for (const CIMProperty& p : schemaClass(Traits::kClass).getAllProperties()) {
     schema.push_back(expectedRow(Traits::kClass, fromSchema(p)));
   }
   std::vector<Declared> table;

@@ -1,12 +1,12 @@
-// RefusingHandle.hpp: a CIMOM handle that answers every operation with CIM_ERR_NOT_SUPPORTED
+// RefusingHandle.h: a CIMOM handle that answers every operation with CIM_ERR_NOT_SUPPORTED
 // and the site and text it was made with. Handles that serve a few operations derive from it
 // and override just those.
-#ifndef RAS_HOST_REFUSINGHANDLE_HPP
-#define RAS_HOST_REFUSINGHANDLE_HPP
+#ifndef RAS_TESTS_REFUSINGHANDLE_HPP
+#define RAS_TESTS_REFUSINGHANDLE_HPP
 
 #include "OW_CIMOMHandleIFC.hpp"
 
-namespace rascim {
+namespace harness {
 
 class RefusingHandle : public OpenWBEM::CIMOMHandleIFC {
  public:
@@ -76,6 +76,6 @@ class RefusingHandle : public OpenWBEM::CIMOMHandleIFC {
   const char* message_;
 };
 
-}  // namespace rascim
+}  // namespace harness
 
 #endif

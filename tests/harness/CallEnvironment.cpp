@@ -1,6 +1,6 @@
 // CallEnvironment.cpp: a per-call environment over a longer-lived one, and the CIMOM handle
 // that stops working when its call ends.
-#include "CallEnvironment.hpp"
+#include "CallEnvironment.h"
 
 #include <stdexcept>
 
@@ -16,7 +16,7 @@
 
 using namespace OpenWBEM;
 
-namespace rascim {
+namespace harness {
 namespace {
 
 using Open = std::shared_ptr<const std::atomic<bool>>;
@@ -166,4 +166,4 @@ ProviderCall::~ProviderCall() {
   *open_ = false;
 }
 
-}  // namespace rascim
+}  // namespace harness

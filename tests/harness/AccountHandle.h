@@ -1,21 +1,18 @@
-// AccountHandle.hpp: the CIMOM handle ras-cim gives the module. It serves what the module
-// reads through its CIMOM: the Zeph_Account instances of the appliance (namespace
-// root/cimv2), taken from the appliance's account list ("NAME TEXTUALUSERID" per line).
-// Every other operation is refused (CIM_ERR_NOT_SUPPORTED).
-#ifndef RAS_HOST_ACCOUNTHANDLE_HPP
-#define RAS_HOST_ACCOUNTHANDLE_HPP
+// AccountHandle.h: a CIMOM handle for tests through the dispatcher that serves what the
+// module reads through its CIMOM: the Zeph_Account instances of namespace root/cimv2, from
+// an account list ("NAME TEXTUALUSERID" per line). Every other operation is refused.
+#ifndef RAS_TESTS_ACCOUNTHANDLE_H
+#define RAS_TESTS_ACCOUNTHANDLE_H
 
-#include <memory>
 #include <string>
 
-#include "MofSchema.hpp"
-#include "RefusingHandle.hpp"
+#include "RefusingHandle.h"
 
-namespace rascim {
+namespace harness {
 
 class AccountHandle : public RefusingHandle {
  public:
-  AccountHandle(std::string accountsFile, std::shared_ptr<const MofSchema> schema);
+  explicit AccountHandle(std::string accountsFile);
 
   void enumInstances(const String& ns, const String& className,
                      OpenWBEM::CIMInstanceResultHandlerIFC& result, Deep, LocalOnly, Qualifiers,
@@ -29,9 +26,8 @@ class AccountHandle : public RefusingHandle {
   OpenWBEM::CIMInstanceArray accounts(const String& ns, const String& className) const;
 
   std::string accountsFile_;
-  std::shared_ptr<const MofSchema> schema_;
 };
 
-}  // namespace rascim
+}  // namespace harness
 
 #endif

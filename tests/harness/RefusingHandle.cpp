@@ -1,5 +1,5 @@
 // RefusingHandle.cpp: every CIMOM operation refused with CIM_ERR_NOT_SUPPORTED.
-#include "RefusingHandle.hpp"
+#include "RefusingHandle.h"
 
 #include "OW_Array.hpp"
 #include "OW_CIMClass.hpp"
@@ -11,7 +11,7 @@
 
 using namespace OpenWBEM;
 
-namespace rascim {
+namespace harness {
 
 using S = const String&;
 using R = RefusingHandle;
@@ -100,4 +100,4 @@ void R::execQuery(S, Instances&, S, S) {
   refuse();
 }
 
-}  // namespace rascim
+}  // namespace harness

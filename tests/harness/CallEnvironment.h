@@ -1,10 +1,10 @@
-// CallEnvironment.hpp: the environment of one call into a provider, with the lifetime a
+// CallEnvironment.h: the environment of one call into a provider, with the lifetime a
 // real OpenWBEM gives it. The CIMOM handle it hands out refers to the call's operation
 // context: it works while the call runs and fails, as OpenWBEM's does with "NULL
 // COWReference dereferenced", once the call has returned. A provider that keeps a handle
 // past its request is caught on its next use.
-#ifndef RAS_HOST_CALLENVIRONMENT_HPP
-#define RAS_HOST_CALLENVIRONMENT_HPP
+#ifndef RAS_TESTS_CALLENVIRONMENT_HPP
+#define RAS_TESTS_CALLENVIRONMENT_HPP
 
 #include <atomic>
 #include <memory>
@@ -12,7 +12,7 @@
 #include "OW_CIMOMHandleIFC.hpp"
 #include "OW_ProviderEnvironmentIFC.hpp"
 
-namespace rascim {
+namespace harness {
 
 // Opens a call on `base` for the life of the object; `env()` is what the provider gets.
 class ProviderCall {
@@ -36,6 +36,6 @@ decltype(auto) withCall(const OpenWBEM::ProviderEnvironmentIFCRef& base, Call ca
   return call(scope.env());
 }
 
-}  // namespace rascim
+}  // namespace harness
 
 #endif

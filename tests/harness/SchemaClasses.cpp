@@ -1,0 +1,54 @@
+// SchemaClasses.cpp: every .mof file of mof/ compiled in memory, qualifier declarations
+// first. OwMofCompiler.hpp must come before any other OpenWBEM header (see there).
+#include "OwMofCompiler.hpp"
+// The rest.
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+#include "OW_CIMInstance.hpp"
+#include "OW_CIMQualifierType.hpp"
+#include "SchemaClasses.h"
+
+using namespace OpenWBEM;
+namespace fs = std::filesystem;
+
+namespace {
+
+const char kQualifiersMof[] = "qualifiers.mof";
+
+std::string schemaText() {
+  std::vector<fs::path> files;
+  for (const fs::directory_entry& e : fs::directory_iterator(RAS_MOF_DIR))
+    if (e.path().extension() == ".mof") files.push_back(e.path());
+  std::sort(files.begin(), files.end(), [](const fs::path& a, const fs::path& b) {
+    return std::make_pair(a.filename() != kQualifiersMof, a) <
+           std::make_pair(b.filename() != kQualifiersMof, b);
+  });
+  std::string text;
+  for (const fs::path& file : files) {
+    std::ifstream in(file);
+    std::ostringstream content;
+    content << in.rdbuf();
+    text += content.str() + "\n";
+  }
+  return text;
+}
+
+}  // namespace
+
+const CIMClass& schemaClass(const std::string& name) {
+  static const CIMClassArray classes = [] {
+    CIMInstanceArray instances;
+    CIMClassArray compiled;
+    CIMQualifierTypeArray qualifierTypes;
+    MOF::compileMOF(schemaText().c_str(), CIMOMHandleIFCRef(), "root/cimv2", instances, compiled,
+                    qualifierTypes);
+    return compiled;
+  }();
+  for (const CIMClass& c : classes)
+    if (c.getName().equalsIgnoreCase(name.c_str())) return c;
+  throw std::runtime_error("not in the schema: " + name);
+}
