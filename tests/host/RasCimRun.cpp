@@ -45,6 +45,10 @@ RasCimResult runRasCim(const std::vector<std::string>& args, const std::string& 
     redirect(out, 1, O_WRONLY | O_CREAT | O_TRUNC);
     redirect(err, 2, O_WRONLY | O_CREAT | O_TRUNC);
     setenv("LD_LIBRARY_PATH", kLibraryPath, 1);
+    // In a sanitizer build: the embedded CIMOM unloads the module when it shuts down, and
+    // LeakSanitizer then can name neither the module's objects nor OpenWBEM's own (its MOF
+    // compiler keeps its lexer's buffers). The module's leaks are checked in process.
+    setenv("LSAN_OPTIONS", "detect_leaks=0", 1);
     execv(kRasCim, const_cast<char* const*>(argv.data()));
     _exit(127);
   }
