@@ -5,7 +5,6 @@
 #include "QvlShared.h"
 #include "Zeph_ApplianceFiles.h"
 #include "Zeph_DialServiceSteps.h"
-#include "Zeph_ModuleGlobals.h"
 #include "Zeph_PlatformLog.h"
 #include "Zeph_Registry.h"
 #include "Zeph_RequestScope.h"

@@ -15,7 +15,6 @@
 #include "QvlShared.h"
 #include "Zeph_CommandRunner.h"
 #include "Zeph_ImpactWarning.h"
-#include "Zeph_ModuleGlobals.h"
 #include "Zeph_PlatformAccess.h"
 #include "Zeph_PlatformLog.h"
 #include "Zeph_RestingPlace.h"
@@ -30,7 +29,7 @@ std::vector<std::string> UserNames;
 
 namespace {
 
-const char* const kInstanceID = "Velmar:Zeph_DialOutSettingData";
+const char* const kInstanceID = Zeph_DialOutSettingDataInstanceID;
 const char* const kElementName = "Dial-Out Settings";
 
 const char* const kCallbackScript = "/qv/etc/ppp/callback_v2k";

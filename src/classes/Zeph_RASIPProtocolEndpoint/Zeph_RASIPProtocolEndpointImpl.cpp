@@ -13,8 +13,8 @@ namespace {
 
 const char* const kSystemCreationClassName = "Zeph_System";
 const char* const kSystemName = "Zeph";
-const char* const kDialInName = "DialInEndpoint";
-const char* const kDialOutName = "DialOutEndpoint";
+const char* const kDialInName = kDialInEndpointName;
+const char* const kDialOutName = kDialOutEndpointName;
 const char* const kElementName = "Local IP Address Configuration";
 const char* const kHostMask = "255.255.255.255";
 const char* const kWrite = "Write";
