@@ -25,7 +25,8 @@ void appendWarning(OpenWBEM::Array<OpenWBEM::CIMQualifier>& qualifiers, const ch
 }  // namespace
 
 void ShowWarningMessage(OpenWBEM::Array<OpenWBEM::CIMQualifier>& qualifiers) {
-  if (ConnectionStatus && check_key == ras::kDialInEndpointName) appendWarning(qualifiers, kDialInWarning);
+  if (ConnectionStatus && check_key == ras::kDialInEndpointName)
+    appendWarning(qualifiers, kDialInWarning);
   if (DialOutConnectionStatus && check_key == ras::kDialOutEndpointName) {
     appendWarning(qualifiers, kDialOutWarning);
   }

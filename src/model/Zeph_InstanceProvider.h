@@ -138,7 +138,7 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
     }
   }
 
- // The conversions, shared with the association whose end the class is.
+  // The conversions, shared with the association whose end the class is.
   // Fills `instance` with every property whose getter succeeds, in table order, and names
   // it by its key properties, so that the CIMOM derives the same path as enumInstanceNames
   // (the properties themselves carry only the getters' qualifiers).

@@ -9,8 +9,8 @@
 #include "Zeph_ConfigReader.h"
 #include "Zeph_DialService.h"
 #include "Zeph_PlatformLog.h"
-#include "Zeph_RequestScope.h"
 #include "Zeph_Registry.h"
+#include "Zeph_RequestScope.h"
 #include "Zeph_ValueChecks.h"
 
 #endif  // ZEPH_PLATFORMACCESS_H

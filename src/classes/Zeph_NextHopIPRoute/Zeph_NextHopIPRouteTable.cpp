@@ -18,7 +18,7 @@ namespace {
 
 const char* const kCountFormat = "declare -r NUMBER_OF_ROUTES=\"%s";
 const char* const kCountPrefix = "declare -r NUMBER_OF_ROUTES";
-const char* const kSetCountScript = "/opt/etc/RasProviderScripts/setNumRoute";
+constexpr auto kSetCountScript = helperScript("setNumRoute");
 const char* const kDuplicate = "Destination Address specified already exists in the table.";
 
 const char* const kCmdCount = "%s %d";

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "Zeph_CommandRunner.h"
+#include "Zeph_DialServiceSteps.h"
 #include "Zeph_ImpactWarning.h"
 #include "Zeph_PPPProtocolEndpointImpl.h"
 #include "Zeph_PlatformAccess.h"
@@ -12,10 +13,10 @@ using namespace ras;
 namespace {
 
 const std::array<PPPLink, 2> kLinks = {{
-    {kDialInEndpointName, true, false, kDialInOptions, "_dialin", kDialInScript, "mgetty_v2k", "DIN",
-     "Interface for DialIn  is"},
-    {kDialOutEndpointName, false, true, kDialOutOptions, "_dialout", kDialOutScript, "ppp_add_v2k", "ADDO",
-     "Interface for DialOut  is"},
+    {kDialInEndpointName, true, false, kDialInOptions, "_dialin", kDialInScript, "mgetty_v2k",
+     "DIN", kLogDialInInterface},
+    {kDialOutEndpointName, false, true, kDialOutOptions, "_dialout", kDialOutScript, "ppp_add_v2k",
+     "ADDO", kLogDialOutInterface},
 }};
 const PPPLink kUnknownLink = {"", false, false, "", "", "", "", "", ""};
 

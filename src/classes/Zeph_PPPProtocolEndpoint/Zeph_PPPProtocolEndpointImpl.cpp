@@ -11,10 +11,7 @@ using namespace ras;
 
 namespace {
 
-const char* const kSystemCreationClassName = "Zeph_System";
-const char* const kSystemName = "Zeph";
 const char* const kElementName = "PPP Configuration";
-
 
 const char* const kLogCreating = "CREATING INSTACES OF PPP\n";
 const char* const kTraceConstructor =

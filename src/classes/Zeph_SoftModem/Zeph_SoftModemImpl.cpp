@@ -13,15 +13,13 @@ using namespace ras;
 
 namespace {
 
-const char* const kSystemCreationClassName = "Zeph_System";
-const char* const kSystemName = "Zeph";
 const char* const kAnsweringID = "SoftModemIn";
 const char* const kCallingID = "SoftModemOut";
 const char* const kElementName = " DSP Soft Modem ";
 const char* const kName = " V.42 Modem ";
 
-const char* const kSetModemParam = "/opt/etc/RasProviderScripts/setModemParam";
-const char* const kGetModemParam = "/opt/etc/RasProviderScripts/getModemParam";
+constexpr auto kSetModemParam = helperScript("setModemParam");
+constexpr auto kGetModemParam = helperScript("getModemParam");
 // "setModemParam PARAMETER CODE" and "getModemParam PARAMETER > RESULT_FILE".
 const char* const kCmdSetModemParam = "%s %d %s";
 const char* const kCmdGetModemParam = "%s %d > %s";
