@@ -15,16 +15,7 @@
 #include "OW_CIMQualifier.hpp"
 #include "OW_CIMValue.hpp"
 #include "SchemaClasses.h"
-#include "Zeph_CallInSettingDataProvider.h"
-#include "Zeph_DialOutRoutesInstProvider.h"
-#include "Zeph_DialOutSettingDataProvider.h"
-#include "Zeph_NextHopIPRouteProvider.h"
-#include "Zeph_PPPProtocolEndpointProvider.h"
-#include "Zeph_RASIPProtocolEndpointProvider.h"
-#include "Zeph_RASServiceProvider.h"
-#include "Zeph_RASStaticIPAddressPoolProvider.h"
-#include "Zeph_SerialPortProvider.h"
-#include "Zeph_SoftModemProvider.h"
+#include "Zeph_ModuleProviders.h"
 
 namespace {
 
@@ -144,11 +135,7 @@ Split split(const std::vector<Declared>& all) {
 template <class Provider>
 class PropertyTableSchema : public ::testing::Test {};
 
-using Providers = ::testing::Types<Zeph_CallInSettingDataProvider, Zeph_DialOutSettingDataProvider,
-                                   Zeph_RASServiceProvider, Zeph_RASStaticIPAddressPoolProvider,
-                                   Zeph_NextHopIPRouteProvider, Zeph_RASIPProtocolEndpointProvider,
-                                   Zeph_PPPProtocolEndpointProvider, Zeph_SoftModemProvider,
-                                   Zeph_SerialPortProvider, Zeph_DialOutRoutesInstProvider>;
+using Providers = ras::WithModuleProviders<::testing::Types>;
 TYPED_TEST_SUITE(PropertyTableSchema, Providers);
 
 TYPED_TEST(PropertyTableSchema, RowsMatchTheSchemaInOrderTypeKeyWriteAndLimits) {
