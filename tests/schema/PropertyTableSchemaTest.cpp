@@ -6,6 +6,7 @@
 // row fails here.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 #include <set>
 #include <string>
@@ -15,6 +16,7 @@
 #include "OW_CIMQualifier.hpp"
 #include "OW_CIMValue.hpp"
 #include "SchemaClasses.h"
+#include "Zeph_ModuleClasses.h"
 #include "Zeph_ModuleProviders.h"
 
 namespace {
@@ -164,6 +166,15 @@ TYPED_TEST(PropertyTableSchema, RowsMatchTheSchemaInOrderTypeKeyWriteAndLimits) 
   for (std::size_t i = 0; i < actual.others.size(); ++i) {
     EXPECT_EQ(actual.others[i], expected.others[i]) << Traits::kClass << " row " << i;
   }
+}
+
+// The module's class table holds every class of its schema, and no other.
+TEST(ModuleClassTable, HoldsTheClassesOfTheSchema) {
+  std::vector<std::string> schema = moduleSchemaClassNames();
+  std::vector<std::string> table = ras::moduleClassNames();
+  std::sort(schema.begin(), schema.end());
+  std::sort(table.begin(), table.end());
+  EXPECT_EQ(table, schema);
 }
 
 }  // namespace
