@@ -5,6 +5,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Zeph_ApplianceFiles.h"
@@ -87,6 +88,11 @@ bool isPlainShellValue(const std::string& value);
 
 // `value` as one shell word: unchanged when plain, else single-quoted.
 std::string shellWord(const std::string& value);
+
+// The formats of a helper script run with plain arguments.
+inline constexpr char kScriptNumber[] = "%s %d";
+inline constexpr char kScriptText[] = "%s %s";
+inline constexpr char kScriptNumberText[] = "%s %d %s";
 
 // Log text for a refused command (error level).
 extern const char* const kCommandRefusedLog;

@@ -26,7 +26,6 @@ const char* const kMarkerDisabled = "#DISABLED";
 const char* const kCmdListPpp = "/sbin/ifconfig | grep \"ppp\" > %s ";
 const char* const kCmdListPppExcept = "/sbin/ifconfig | grep \"ppp\" | grep -v \"%s\" > %s ";
 const char* const kCmdKill9 = "killall -9 %s";
-const char* const kCmdHangup = "%s %s";
 const char* const kCmdInitReload = "init q";
 const char* const kCmdCloseGate = "%s -i 's/#\\?$IF_ENABLE_CMD/$IF_ENABLE_CMD/' %s";
 const char* const kCmdOpenGate = "%s -i 's/#\\?$IF_ENABLE_CMD/#$IF_ENABLE_CMD/' %s";
@@ -114,7 +113,7 @@ void resumeDirection(const DialDirection& direction) {
 }
 
 ShellCommand hangupCommand(const std::string& interface) {
-  return ShellCommand(kCmdHangup, {kHangupScript, interface});
+  return ShellCommand(kScriptText, {kHangupScript, interface});
 }
 
 ShellCommand killMgettyCommand() {

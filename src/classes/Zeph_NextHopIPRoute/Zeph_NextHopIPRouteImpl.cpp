@@ -28,7 +28,6 @@ const char kInvalidAddress[] = {'#', 4, '#', 0};
 const char kElementPresent[] = {'#', 5, '#', 0};
 const char* const kInvalidIndex = "Invalid Route Index";
 
-const char* const kCmdInstall = "%s %d";
 const char* const kRouteProbe = "\tROUTES[%d]=\"%s";
 
 const char* const kLogLoad = "Zeph_NextHopIPRouteImpl::Zeph_NextHopIPRouteImpl\n";
@@ -96,7 +95,7 @@ Written writeElement(const ElementSetter& setter, int index, const CommandArg& v
   platformLogDebug(formatText(kLogProbe, probe.c_str()));
   const std::string found = probeFile(probe);
   platformLogDebug(formatText(setter.probeLog, found.c_str()));
-  const ShellCommand install(kCmdInstall, {kAddRouteScript, index});
+  const ShellCommand install(kScriptNumber, {kAddRouteScript, index});
   if (!found.empty()) {
     const std::string old = readRouteElement(setter.array, index, setter.currentLog);
     const ShellCommand edit(setter.inPlaceCommand, {kSed, index, old, index, value, kRouteScript});

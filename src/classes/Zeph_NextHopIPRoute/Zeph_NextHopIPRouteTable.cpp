@@ -21,7 +21,6 @@ const char* const kCountPrefix = "declare -r NUMBER_OF_ROUTES";
 constexpr auto kSetCountScript = helperScript("setNumRoute");
 const char* const kDuplicate = "Destination Address specified already exists in the table.";
 
-const char* const kCmdCount = "%s %d";
 const char* const kCmdDelete = "%s %d %d\n";
 const char* const kCmdRemoveBackslash = "%s %d %s\n";
 
@@ -41,7 +40,7 @@ const char* const kLogLast = "Removing the last Entry\n";
 const RouteArray* const kArrays[] = {&kRouteArray, &kMaskArray, &kMetricArray};
 
 void setRouteCount(int count) {
-  runCommand(kCmdCount, {kSetCountScript, count});
+  runCommand(kScriptNumber, {kSetCountScript, count});
 }
 
 std::string instanceIDOf(const Zeph_NextHopIPRoute& route) {

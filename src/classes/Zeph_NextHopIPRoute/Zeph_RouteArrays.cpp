@@ -75,17 +75,14 @@ const RouteArray kMetricArray = {
 namespace {
 
 const char* const kLogContinuation = "cmdline for adding backward slash is %s\n";
-const char* const kCmdNumberArg = "%s %d";
-const char* const kCmdTextArg = "%s %s";
-const char* const kCmdIndexText = "%s %d %s";
 const char* const kCmdIndexNumber = "%s %d %d";
 
 ShellCommand appendLine(const RouteArray& array, int index, const CommandArg& value) {
   if (index > 0) {
-    return ShellCommand(value.isNumber() ? kCmdIndexNumber : kCmdIndexText,
+    return ShellCommand(value.isNumber() ? kCmdIndexNumber : kScriptNumberText,
                         {array.appendScript, index, value});
   }
-  return ShellCommand(value.isNumber() ? kCmdNumberArg : kCmdTextArg, {array.firstScript, value});
+  return ShellCommand(value.isNumber() ? kScriptNumber : kScriptText, {array.firstScript, value});
 }
 
 }  // namespace
