@@ -1,30 +1,15 @@
 // The module's ten classes, one row each, in canonical class order: the order the module
 // objects are constructed in, initialized and cleaned up, and the order the dispatcher
 // compares class names in.
-#include "Zeph_CallInSettingDataProvider.h"
+#include <string>
+#include <vector>
+
 #include "Zeph_ClassTable.h"
-#include "Zeph_DialOutRoutesProvider.h"
-#include "Zeph_DialOutSettingDataProvider.h"
-#include "Zeph_NextHopIPRouteProvider.h"
-#include "Zeph_PPPProtocolEndpointProvider.h"
-#include "Zeph_RASIPProtocolEndpointProvider.h"
-#include "Zeph_RASServiceProvider.h"
-#include "Zeph_RASStaticIPAddressPoolProvider.h"
-#include "Zeph_SerialPortProvider.h"
-#include "Zeph_SoftModemProvider.h"
+#include "Zeph_ModuleProviders.h"
 
 namespace {
 
-using ModuleClassTable = ras::ClassTable<Zeph_CallInSettingDataProvider,       //
-                                         Zeph_DialOutSettingDataProvider,      //
-                                         Zeph_RASServiceProvider,              //
-                                         Zeph_RASStaticIPAddressPoolProvider,  //
-                                         Zeph_NextHopIPRouteProvider,          //
-                                         Zeph_RASIPProtocolEndpointProvider,   //
-                                         Zeph_PPPProtocolEndpointProvider,     //
-                                         Zeph_SoftModemProvider,               //
-                                         Zeph_SerialPortProvider,              //
-                                         Zeph_DialOutRoutesProvider>;
+using ModuleClassTable = ras::WithModuleProviders<ras::ClassTable>;
 
 // The module objects; unload destroys them in reverse order.
 ModuleClassTable moduleObjects;
@@ -62,6 +47,12 @@ const ModuleClass* findModuleClass(const OpenWBEM::String& className) {
 OpenWBEM::CppAssociatorProviderIFC* findAssociationProvider(const OpenWBEM::String& assocClass) {
   const ModuleClass* moduleClass = findModuleClass(assocClass);
   return moduleClass != nullptr ? moduleClass->associations : nullptr;
+}
+
+std::vector<std::string> moduleClassNames() {
+  std::vector<std::string> names;
+  for (const ModuleClass& moduleClass : routes().rows) names.emplace_back(moduleClass.name);
+  return names;
 }
 
 void initializeModuleClasses(const OpenWBEM::ProviderEnvironmentIFCRef& env) {

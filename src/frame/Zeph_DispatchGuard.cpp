@@ -5,7 +5,7 @@
 #include <string>
 
 #include "OW_Logger.hpp"
-#include "Zeph_ModuleGlobals.h"
+#include "Zeph_PlatformLog.h"
 #include "Zeph_ProviderErrors.h"
 
 namespace ras {

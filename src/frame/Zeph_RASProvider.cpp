@@ -1,11 +1,9 @@
-// The module's logger and CIMOM handle, and the provider's life cycle over the class table.
+// The provider's life cycle over the class table; initialize keeps the CIMOM's logger.
 #include "Zeph_RASProvider.h"
 
 #include "Zeph_ModuleClasses.h"
-#include "Zeph_ModuleGlobals.h"
-
-OpenWBEM::IntrusiveReference<OpenWBEM::Logger> logger;
-ras::CurrentCIMOMHandle hdl;
+#include "Zeph_PlatformLog.h"
+#include "Zeph_RequestScope.h"
 
 Zeph_RASProvider::~Zeph_RASProvider() = default;
 

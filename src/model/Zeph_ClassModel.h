@@ -14,6 +14,11 @@
 
 namespace ras {
 
+// The system every device, service and endpoint of the module belongs to (their
+// SystemCreationClassName and SystemName keys).
+inline constexpr char kSystemCreationClassName[] = "Zeph_System";
+inline constexpr char kSystemName[] = "Zeph";
+
 // The warning array every getter receives (impact warnings, "Write", "Applicable", ...).
 using Qualifiers = OpenWBEM::Array<OpenWBEM::CIMQualifier>;
 

@@ -138,11 +138,11 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
     }
   }
 
- protected:
+  // The conversions, shared with the association whose end the class is.
   // Fills `instance` with every property whose getter succeeds, in table order, and names
   // it by its key properties, so that the CIMOM derives the same path as enumInstanceNames
   // (the properties themselves carry only the getters' qualifiers).
-  void toInstance(const String& ns, const W& object, CIMInstance& instance) const {
+  static void toInstance(const String& ns, const W& object, CIMInstance& instance) {
     Qualifiers qualifiers;
     OpenWBEM::CIMPropertyArray keys;
     for (const Property<W>& row : Traits::properties()) {
@@ -158,7 +158,7 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
   }
 
   // Sets the key(s) of `path`; an unreadable key means the object cannot be named.
-  void toObjectPath(const W& object, CIMObjectPath& path) const {
+  static void toObjectPath(const W& object, CIMObjectPath& path) {
     Qualifiers scratch;
     for (const Property<W>& row : Traits::properties()) {
       if (row.role != Role::Key) continue;
@@ -170,6 +170,7 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
     }
   }
 
+ protected:
   // A path with keys the class does not have names no instance of it.
   W* lookup(const CIMObjectPath& path) const {
     if (path.getKeys().size() > W::kKeyCount) {

@@ -7,9 +7,12 @@
 
 namespace ras {
 
+const char* const kLogLocalOnSet = "LOCAL IP \n";
+const char* const kLogRemote = "REMOTE IP\n";
+
 namespace {
 
-const char* const kSetIPEx = "/opt/etc/RasProviderScripts/setIPEx";
+constexpr auto kSetIPEx = helperScript("setIPEx");
 // A remote part read from a file keeps its line's newline; the command runner then lets it
 // end the command line.
 const char* const kCmdSetIPEx = "%s %s %s:%s";
@@ -27,8 +30,9 @@ AddressLine readAddressLine(const char* optionsFile) {
   return line;
 }
 
-int setAddressLine(const char* optionsFile, const std::string& local, const std::string& remote) {
-  return runCommand(kCmdSetIPEx, {kSetIPEx, optionsFile, local, remote});
+ShellCommand addressLineEdit(const char* optionsFile, const std::string& local,
+                             const std::string& remote) {
+  return ShellCommand(kCmdSetIPEx, {kSetIPEx, optionsFile, local, remote});
 }
 
 std::string withoutNewline(const std::string& remote) {

@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "Zeph_CommandRunner.h"
+
 namespace ras {
 
 struct AddressLine {
@@ -15,14 +17,19 @@ struct AddressLine {
 // Both parts empty when the file has no address line or cannot be read.
 AddressLine readAddressLine(const char* optionsFile);
 
-// Runs "setIPEx FILE LOCAL:REMOTE"; either part may be empty. A remote part that still ends
-// in its line's newline puts that newline at the end of the command line, where the shell
-// ignores it. system()'s result, or -1 when a part is not safe for the shell.
-int setAddressLine(const char* optionsFile, const std::string& local, const std::string& remote);
+// The command "setIPEx FILE LOCAL:REMOTE"; either part may be empty. A remote part that still
+// ends in its line's newline puts that newline at the end of the command line, where the
+// shell ignores it. Not valid when a part is not safe for the shell.
+ShellCommand addressLineEdit(const char* optionsFile, const std::string& local,
+                             const std::string& remote);
 
 // Logs the line at debug level as four messages: localLabel, the local part, remoteLabel, the
 // remote part.
 void logAddressLine(const char* localLabel, const char* remoteLabel, const AddressLine& line);
+
+// The labels of the address line after a change: "LOCAL IP \n" and "REMOTE IP\n".
+extern const char* const kLogLocalOnSet;
+extern const char* const kLogRemote;
 
 // The remote part without the newline of its line.
 std::string withoutNewline(const std::string& remote);

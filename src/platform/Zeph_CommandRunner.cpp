@@ -157,6 +157,19 @@ int ShellCommand::run() const {
   return std::system(text_.c_str());
 }
 
+bool CommandSequence::valid() const {
+  for (const ShellCommand& command : commands_) {
+    if (!command.valid()) return false;
+  }
+  return true;
+}
+
+bool CommandSequence::run() const {
+  if (!valid()) return false;
+  for (const ShellCommand& command : commands_) command.run();
+  return true;
+}
+
 int runCommand(const char* format, std::initializer_list<CommandArg> args) {
   return ShellCommand(format, args).run();
 }

@@ -5,6 +5,10 @@
 
 #include <initializer_list>
 #include <string>
+#include <utility>
+#include <vector>
+
+#include "Zeph_ApplianceFiles.h"
 
 namespace ras {
 
@@ -13,6 +17,8 @@ class CommandArg {
  public:
   CommandArg(const char* text) : text_(text ? text : ""), isNumber_(false) {}
   CommandArg(const std::string& text) : text_(text), isNumber_(false) {}
+  template <std::size_t N>
+  CommandArg(const ScriptPath<N>& path) : text_(path.text), isNumber_(false) {}
   CommandArg(int number) : text_(std::to_string(number)), isNumber_(true) {}
   CommandArg(unsigned number) : text_(std::to_string(number)), isNumber_(true) {}
   CommandArg(long number) : text_(std::to_string(number)), isNumber_(true) {}
@@ -42,12 +48,36 @@ class ShellCommand {
   bool valid() const { return valid_; }
   const std::string& text() const { return text_; }
 
-  // Runs the line with system(); a refused command is logged and not run (result -1).
+  // Runs the line with system(). A refused line is logged and not run (result -1): a last
+  // defence that no client value reaches, since every setter builds its lines and refuses
+  // the value before it runs the first (see CommandSequence).
   int run() const;
 
  private:
   std::string text_;
   bool valid_;
+};
+
+// The command lines of one setter's sequence, all built before the first runs, so that a
+// value that cannot be formatted safely into every one of them is refused with nothing run.
+class CommandSequence {
+ public:
+  CommandSequence& add(const char* format, std::initializer_list<CommandArg> args) {
+    return add(ShellCommand(format, args));
+  }
+  CommandSequence& add(ShellCommand command) {
+    commands_.push_back(std::move(command));
+    return *this;
+  }
+
+  // True when every line of the sequence is safe.
+  bool valid() const;
+
+  // Runs every line in order when all are safe, none otherwise; valid().
+  bool run() const;
+
+ private:
+  std::vector<ShellCommand> commands_;
 };
 
 // Builds and runs a command in one step; the result is system()'s, or -1 when refused.
@@ -58,6 +88,11 @@ bool isPlainShellValue(const std::string& value);
 
 // `value` as one shell word: unchanged when plain, else single-quoted.
 std::string shellWord(const std::string& value);
+
+// The formats of a helper script run with plain arguments.
+inline constexpr char kScriptNumber[] = "%s %d";
+inline constexpr char kScriptText[] = "%s %s";
+inline constexpr char kScriptNumberText[] = "%s %d %s";
 
 // Log text for a refused command (error level).
 extern const char* const kCommandRefusedLog;

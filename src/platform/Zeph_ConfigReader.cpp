@@ -10,7 +10,6 @@
 
 #include "Zeph_ApplianceFiles.h"
 #include "Zeph_ConfigScan.h"
-#include "Zeph_ModuleGlobals.h"
 #include "Zeph_PlatformLog.h"
 
 using namespace ras;

@@ -6,6 +6,13 @@
 #include <cstdio>
 #include <string>
 
+#include "Zeph_CachedConfigFile.h"
+
+// The configuration files kept open for the cached reads.
+extern ras::CachedConfigFile FileList[ras::kFileListSize];
+// Stream of the last file that IsOpen opened outside FileList.
+extern FILE* file_tmp;
+
 // Scans `path` for lines that begin with the text of `format` before its first "%". Each such
 // line is scanned with `format` into one output: an int* when `format` contains "%d", else a
 // std::string* when it contains "%s", none otherwise. Returns -1 when the file cannot be

@@ -5,7 +5,6 @@
 #include "QvlShared.h"
 #include "Zeph_ApplianceFiles.h"
 #include "Zeph_DialServiceSteps.h"
-#include "Zeph_ModuleGlobals.h"
 #include "Zeph_PlatformLog.h"
 #include "Zeph_Registry.h"
 #include "Zeph_RequestScope.h"
@@ -17,13 +16,9 @@ int handle = -1;
 namespace {
 
 const char* const kLogJobControl = "Restart_ppp_add_v2k:jobCntrl";
-const char* const kLogProcessCmd = "ProcessCmd is";
-const char* const kLogProcessCmd1 = "ProcessCmd1 is";
 const char* const kLogRestartInterface = "Name of DialOut in Restart  Interface.. ";
 const char* const kLogKillingMgetty = "Killing Mgetty";
 const char* const kLogCallback = "Calling Callback Function";
-const char* const kLogDialOutInterface = "Interface for DialOut  is";
-const char* const kLogDialInInterface = "Interface for DialIn  is";
 const char* const kLogNotifyStarted = "Successful in Notify";
 
 }  // namespace
@@ -52,7 +47,7 @@ void Restart_ppp_add_v2k() {
     platformLogDebug(kLogRestartInterface);
     platformLogDebug(interface);
   }
-  logAndRun(kLogProcessCmd, hangupCommand(interface));
+  hangUp(interface);
 }
 
 void RestartMgetty() {
@@ -71,7 +66,7 @@ void ras::stopDialOut() {
   closeGate(kDialOutScript);
   if (interface.empty()) return;
   killChat();
-  logAndRun(kLogProcessCmd, hangupCommand(interface));
+  hangUp(interface);
 }
 
 void ras::stopDialIn() {
@@ -79,8 +74,8 @@ void ras::stopDialIn() {
   const std::string interface = dialInRecorded() == 1 ? interfaceInMarker() : std::string();
   platformLogDebug(kLogDialInInterface);
   platformLogDebug(interface);
-  if (!interface.empty()) logAndRun(kLogProcessCmd, hangupCommand(interface));
-  logAndRun(kLogProcessCmd1, killMgettyCommand());
+  if (!interface.empty()) hangUp(interface);
+  killMgettyAfterHangUp();
 }
 
 void ras::resumeDialOut() {

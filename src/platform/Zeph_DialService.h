@@ -5,6 +5,9 @@
 
 #include <string>
 
+// Notification handle of the "ModemStatus" subscription; -1 while there is none.
+extern int handle;
+
 void Restart_ppp_add_v2k();
 void RestartMgetty();
 void remove_ppp_link(unsigned long);

@@ -20,19 +20,20 @@ const char* const kKeyDialIn = "DIN";
 const char* const kUnitFormat = "ppp%s";
 const char* const kInterfacePrefix = "ppp";
 const char* const kFirstWord = "%s";
-const char* const kGateLine = "#$IF_ENABLE_CMD";
 const char* const kMarkerEnabled = "#ENABLED";
 const char* const kMarkerDisabled = "#DISABLED";
 
-const char* const kCmdListPpp = "/sbin/ifconfig | grep \"ppp\" > /tmp/ifout ";
-const char* const kCmdListPppExcept =
-    "/sbin/ifconfig | grep \"ppp\" | grep -v \"%s\" > /tmp/ifout ";
+const char* const kCmdListPpp = "/sbin/ifconfig | grep \"ppp\" > %s ";
+const char* const kCmdListPppExcept = "/sbin/ifconfig | grep \"ppp\" | grep -v \"%s\" > %s ";
 const char* const kCmdKill9 = "killall -9 %s";
-const char* const kCmdHangup = "%s %s";
 const char* const kCmdInitReload = "init q";
 const char* const kCmdCloseGate = "%s -i 's/#\\?$IF_ENABLE_CMD/$IF_ENABLE_CMD/' %s";
 const char* const kCmdOpenGate = "%s -i 's/#\\?$IF_ENABLE_CMD/#$IF_ENABLE_CMD/' %s";
 const char* const kCmdContinue = "%s -s CONT %s\n";
+const char* const kCmdKillChatIntoLog = "killall -9 %s >> /tmp/chatlog";
+
+const char* const kLogProcessCmd = "ProcessCmd is";
+const char* const kLogProcessCmd1 = "ProcessCmd1 is";
 
 const char* const kLogDialInResumed = "For Dialin Previous interface";
 const char* const kLogDialOutResumed = "For Dialout Previous Interface";
@@ -53,6 +54,10 @@ std::string firstWordOf(const char* script, const char* prefix) {
 
 }  // namespace
 
+const char* const kOpenGateLine = "#$IF_ENABLE_CMD";
+const char* const kLogDialInInterface = "Interface for DialIn  is";
+const char* const kLogDialOutInterface = "Interface for DialOut  is";
+
 const DialDirection kDialInDirection = {kDialInScript, "mgetty_v2k", kLogDialInResumed};
 const DialDirection kDialOutDirection = {kDialOutScript, "ppp_add_v2k", kLogDialOutResumed};
 
@@ -70,28 +75,36 @@ std::string interfaceInMarker() {
 
 std::string dialOutInterfaceFor(int addo) {
   if (addo == -1) {
-    runCommand(kCmdListPpp, {});
+    runCommand(kCmdListPpp, {kIfoutFile});
     return interfaceFrom(kIfoutFile);
   }
   const std::string active = interfaceInMarker();
   if (addo == 1) return active;
-  runCommand(kCmdListPppExcept, {active});
+  runCommand(kCmdListPppExcept, {active, kIfoutFile});
   return interfaceFrom(kIfoutFile);
 }
 
 std::string gateState(const char* script) {
-  return firstWordOf(script, kGateLine);
+  return firstWordOf(script, kOpenGateLine);
 }
 
 void closeGate(const char* script) {
   runCommand(kCmdCloseGate, {kSed, script});
 }
 
+void openGate(const char* script) {
+  runCommand(kCmdOpenGate, {kSed, script});
+}
+
+void continueProcess(const char* process) {
+  runCommand(kCmdContinue, {kSignalKillall, process});
+}
+
 void resumeDirection(const DialDirection& direction) {
   std::string marker = firstWordOf(direction.script, kMarkerEnabled);
   if (marker == kMarkerEnabled) {
-    runCommand(kCmdOpenGate, {kSed, direction.script});
-    runCommand(kCmdContinue, {kSignalKillall, direction.process});
+    openGate(direction.script);
+    continueProcess(direction.process);
     platformLogDebug(direction.resumedLog);
     return;
   }
@@ -100,7 +113,7 @@ void resumeDirection(const DialDirection& direction) {
 }
 
 ShellCommand hangupCommand(const std::string& interface) {
-  return ShellCommand(kCmdHangup, {kHangupScript, interface});
+  return ShellCommand(kScriptText, {kHangupScript, interface});
 }
 
 ShellCommand killMgettyCommand() {
@@ -109,6 +122,18 @@ ShellCommand killMgettyCommand() {
 
 void killChat() {
   runCommand(kCmdKill9, {kChat});
+}
+
+void killChatIntoLog() {
+  runCommand(kCmdKillChatIntoLog, {kChat});
+}
+
+void hangUp(const std::string& interface) {
+  logAndRun(kLogProcessCmd, hangupCommand(interface));
+}
+
+void killMgettyAfterHangUp() {
+  logAndRun(kLogProcessCmd1, killMgettyCommand());
 }
 
 void reloadInit() {

@@ -8,8 +8,9 @@
 #include "Zeph_ApplianceFiles.h"
 #include "Zeph_ConfigReader.h"
 #include "Zeph_DialService.h"
-#include "Zeph_ModuleGlobals.h"
+#include "Zeph_PlatformLog.h"
 #include "Zeph_Registry.h"
+#include "Zeph_RequestScope.h"
 #include "Zeph_ValueChecks.h"
 
 #endif  // ZEPH_PLATFORMACCESS_H

@@ -5,9 +5,17 @@
 
 #include <string>
 
+#include "OW_IntrusiveReference.hpp"
 #include "OW_Logger.hpp"
 #include "OW_String.hpp"
-#include "Zeph_ModuleGlobals.h"
+
+namespace ras {
+// The log component the module asks its CIMOM's loggers for.
+inline constexpr char kLogComponent[] = "Zeph_RASProvider";
+}  // namespace ras
+
+// The CIMOM's logger, kept by initialize; empty before it.
+extern OpenWBEM::IntrusiveReference<OpenWBEM::Logger> logger;
 
 namespace ras {
 

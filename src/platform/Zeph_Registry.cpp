@@ -22,6 +22,7 @@ const char* const kRegOn = "ON";
 const char* const kRegOff = "OFF";
 const char* const kQvlErrorLog = "Error in QVL Operation\n";
 const char* const kQvlErrorLogUpper = "Error IN QVL Operation\n";
+const char* const kBadModemStatusLog = "ERROR:modemStatus is not properly update in the PDR.. \n";
 
 namespace {
 

@@ -24,6 +24,8 @@ extern const char* const kRegOff;       // "OFF"
 // The two registry failure texts, each kept by its callers.
 extern const char* const kQvlErrorLog;       // "Error in QVL Operation\n"
 extern const char* const kQvlErrorLogUpper;  // "Error IN QVL Operation\n"
+// "ModemStatus" holds neither value.
+extern const char* const kBadModemStatusLog;
 
 constexpr int kRegValueSize = 60;
 

@@ -34,8 +34,8 @@ int ShellVariable::read(std::string& value) const {
   return getConfigParameter(file, readPattern().c_str(), &value);
 }
 
-int ShellVariable::edit(const CommandArg& value) const {
-  return runCommand(editFormat().c_str(), {kSed, value, file});
+ShellCommand ShellVariable::edit(const CommandArg& value) const {
+  return ShellCommand(editFormat().c_str(), {kSed, value, file});
 }
 
 }  // namespace ras

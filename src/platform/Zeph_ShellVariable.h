@@ -28,8 +28,8 @@ struct ShellVariable {
   int read(int& value) const;
   int read(std::string& value) const;
 
-  // Runs the edit that sets the variable to `value`; system()'s result.
-  int edit(const CommandArg& value) const;
+  // The edit that sets the variable to `value`.
+  ShellCommand edit(const CommandArg& value) const;
 };
 
 }  // namespace ras

@@ -13,6 +13,9 @@ int itoa(int value, char* text);
 int reverse(char* text);
 
 namespace ras {
+
+// The mask of a single host: that of every address and new route until one is set.
+inline constexpr char kHostMask[] = "255.255.255.255";
 // An address a client may set: IsIPValid accepts it, and it stays data everywhere an
 // address is written (a sed expression, a double-quoted assignment of the route file, a
 // part of pppd's address line). IsIPValid never looks past the fourth dot-separated token,

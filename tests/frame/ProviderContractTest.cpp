@@ -13,37 +13,24 @@
 #include "OW_CIMProperty.hpp"
 #include "OW_ResultHandlers.hpp"
 #include "TestEnvironment.h"
-#include "Zeph_CallInSettingDataProvider.h"
-#include "Zeph_DialOutRoutesInstProvider.h"
-#include "Zeph_DialOutSettingDataProvider.h"
-#include "Zeph_NextHopIPRouteProvider.h"
-#include "Zeph_PPPProtocolEndpointProvider.h"
-#include "Zeph_RASIPProtocolEndpointProvider.h"
-#include "Zeph_RASServiceProvider.h"
-#include "Zeph_RASStaticIPAddressPoolProvider.h"
-#include "Zeph_SerialPortProvider.h"
-#include "Zeph_SoftModemProvider.h"
+#include "Zeph_ModuleProviders.h"
 
 namespace {
 
 using namespace OpenWBEM;
 
-template <class P, const char* Source>
+// One provider of the module's table with the source name its errors carry, as clients have
+// always seen it: "../src/<Class>Provider", for the association its instance provider's.
+template <class P>
 struct ProviderCase {
   using Provider = P;
-  static constexpr const char* kSource = Source;
+  static inline const std::string kSource =
+      std::string("../src/") + P::Traits::kClass +
+      (std::is_base_of_v<CppAssociatorProviderIFC, P> ? "InstProvider" : "Provider");
 };
 
-constexpr char kCallIn[] = "../src/Zeph_CallInSettingDataProvider";
-constexpr char kDialOut[] = "../src/Zeph_DialOutSettingDataProvider";
-constexpr char kService[] = "../src/Zeph_RASServiceProvider";
-constexpr char kPool[] = "../src/Zeph_RASStaticIPAddressPoolProvider";
-constexpr char kRoute[] = "../src/Zeph_NextHopIPRouteProvider";
-constexpr char kIPEndpoint[] = "../src/Zeph_RASIPProtocolEndpointProvider";
-constexpr char kPPP[] = "../src/Zeph_PPPProtocolEndpointProvider";
-constexpr char kModem[] = "../src/Zeph_SoftModemProvider";
-constexpr char kSerial[] = "../src/Zeph_SerialPortProvider";
-constexpr char kRoutes[] = "../src/Zeph_DialOutRoutesInstProvider";
+template <class... P>
+using ProviderCases = ::testing::Types<ProviderCase<P>...>;
 
 const String kNs("root/cimv2");
 const CIMClass kNoClass(CIMNULL);
@@ -93,16 +80,7 @@ class ProviderContract : public ::testing::Test {
   typename Provider::M abstractManager_;
 };
 
-using Cases = ::testing::Types<ProviderCase<Zeph_CallInSettingDataProvider, kCallIn>,
-                               ProviderCase<Zeph_DialOutSettingDataProvider, kDialOut>,
-                               ProviderCase<Zeph_RASServiceProvider, kService>,
-                               ProviderCase<Zeph_RASStaticIPAddressPoolProvider, kPool>,
-                               ProviderCase<Zeph_NextHopIPRouteProvider, kRoute>,
-                               ProviderCase<Zeph_RASIPProtocolEndpointProvider, kIPEndpoint>,
-                               ProviderCase<Zeph_PPPProtocolEndpointProvider, kPPP>,
-                               ProviderCase<Zeph_SoftModemProvider, kModem>,
-                               ProviderCase<Zeph_SerialPortProvider, kSerial>,
-                               ProviderCase<Zeph_DialOutRoutesInstProvider, kRoutes>>;
+using Cases = ras::WithModuleProviders<ProviderCases>;
 TYPED_TEST_SUITE(ProviderContract, Cases);
 
 TYPED_TEST(ProviderContract, WithoutImplementationNothingIsListedOrCreated) {

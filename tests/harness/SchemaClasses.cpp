@@ -18,6 +18,7 @@ namespace fs = std::filesystem;
 namespace {
 
 const char kQualifiersMof[] = "qualifiers.mof";
+const char kModuleMof[] = "Zeph_RAS.mof";
 
 std::string schemaText() {
   std::vector<fs::path> files;
@@ -51,4 +52,15 @@ const CIMClass& schemaClass(const std::string& name) {
   for (const CIMClass& c : classes)
     if (c.getName().equalsIgnoreCase(name.c_str())) return c;
   throw std::runtime_error("not in the schema: " + name);
+}
+
+std::vector<std::string> moduleSchemaClassNames() {
+  std::ifstream in(fs::path(RAS_MOF_DIR) / kModuleMof);
+  std::vector<std::string> names;
+  for (std::string line; std::getline(in, line);) {
+    std::istringstream words(line);
+    std::string keyword, name;
+    if (words >> keyword >> name && keyword == "class") names.push_back(name);
+  }
+  return names;
 }

@@ -5,6 +5,7 @@
 #include "TestSupport.h"
 #include "Zeph_CommandRunner.h"
 
+using ras::CommandSequence;
 using ras::runCommand;
 using ras::ShellCommand;
 
@@ -58,6 +59,20 @@ TEST(CommandRunnerTest, RefusedCommandIsLoggedAndNotRun) {
   EXPECT_THAT(log.newLines(),
               testing::ElementsAre("ERROR|Command not run: a value is not safe for the shell\n"));
   EXPECT_EQ(runCommand("exit %d", {3}), 3 << 8);
+}
+
+// A sequence with one unsafe line runs none of its lines, and so never reaches the runner's
+// own refusal; a safe one runs them all.
+TEST(CommandRunnerTest, SequenceRunsAllOrNothing) {
+  ScopedLogRecorder log;
+  CommandSequence refused;
+  refused.add("exit %d", {0}).add("echo \"%s\"", {"`id`"});
+  EXPECT_FALSE(refused.valid());
+  EXPECT_FALSE(refused.run());
+  EXPECT_THAT(log.newLines(), testing::IsEmpty());
+  CommandSequence safe;
+  safe.add("exit %d", {0}).add("exit %d", {1});
+  EXPECT_TRUE(safe.run());
 }
 
 }  // namespace

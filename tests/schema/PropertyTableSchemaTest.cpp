@@ -6,6 +6,7 @@
 // row fails here.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 #include <set>
 #include <string>
@@ -15,16 +16,8 @@
 #include "OW_CIMQualifier.hpp"
 #include "OW_CIMValue.hpp"
 #include "SchemaClasses.h"
-#include "Zeph_CallInSettingDataProvider.h"
-#include "Zeph_DialOutRoutesInstProvider.h"
-#include "Zeph_DialOutSettingDataProvider.h"
-#include "Zeph_NextHopIPRouteProvider.h"
-#include "Zeph_PPPProtocolEndpointProvider.h"
-#include "Zeph_RASIPProtocolEndpointProvider.h"
-#include "Zeph_RASServiceProvider.h"
-#include "Zeph_RASStaticIPAddressPoolProvider.h"
-#include "Zeph_SerialPortProvider.h"
-#include "Zeph_SoftModemProvider.h"
+#include "Zeph_ModuleClasses.h"
+#include "Zeph_ModuleProviders.h"
 
 namespace {
 
@@ -144,11 +137,7 @@ Split split(const std::vector<Declared>& all) {
 template <class Provider>
 class PropertyTableSchema : public ::testing::Test {};
 
-using Providers = ::testing::Types<Zeph_CallInSettingDataProvider, Zeph_DialOutSettingDataProvider,
-                                   Zeph_RASServiceProvider, Zeph_RASStaticIPAddressPoolProvider,
-                                   Zeph_NextHopIPRouteProvider, Zeph_RASIPProtocolEndpointProvider,
-                                   Zeph_PPPProtocolEndpointProvider, Zeph_SoftModemProvider,
-                                   Zeph_SerialPortProvider, Zeph_DialOutRoutesInstProvider>;
+using Providers = ras::WithModuleProviders<::testing::Types>;
 TYPED_TEST_SUITE(PropertyTableSchema, Providers);
 
 TYPED_TEST(PropertyTableSchema, RowsMatchTheSchemaInOrderTypeKeyWriteAndLimits) {
@@ -177,6 +166,15 @@ TYPED_TEST(PropertyTableSchema, RowsMatchTheSchemaInOrderTypeKeyWriteAndLimits) 
   for (std::size_t i = 0; i < actual.others.size(); ++i) {
     EXPECT_EQ(actual.others[i], expected.others[i]) << Traits::kClass << " row " << i;
   }
+}
+
+// The module's class table holds every class of its schema, and no other.
+TEST(ModuleClassTable, HoldsTheClassesOfTheSchema) {
+  std::vector<std::string> schema = moduleSchemaClassNames();
+  std::vector<std::string> table = ras::moduleClassNames();
+  std::sort(schema.begin(), schema.end());
+  std::sort(table.begin(), table.end());
+  EXPECT_EQ(table, schema);
 }
 
 }  // namespace

@@ -163,7 +163,7 @@ int Zeph_CallInSettingDataImpl::getRingsBeforeAnswer(unsigned short& value,
 int Zeph_CallInSettingDataImpl::setRingsBeforeAnswer(unsigned short value) {
   platformLogDebug(kTraceSetRings);
   if (value < kMinRings || value > kMaxRings) return kStatusRingsOutOfRange;
-  kRings.edit(static_cast<int>(value));
+  kRings.edit(static_cast<int>(value)).run();
   ringsBeforeAnswer_ = value;
   RestartMgetty();
   return ras::kStatusOk;

@@ -97,17 +97,6 @@ Zeph_DialOutRoutesInstanceManager& startIterationFrom(const CIMObjectPath& path,
   return manager;
 }
 
-// The conversions of the two ends, as their own providers make them.
-const Zeph_DialOutSettingDataProvider& settingsProvider() {
-  static const Zeph_DialOutSettingDataProvider provider;
-  return provider;
-}
-
-const Zeph_NextHopIPRouteProvider& routeProvider() {
-  static const Zeph_NextHopIPRouteProvider provider;
-  return provider;
-}
-
 // Each end as an instance or a name, converted as its own provider does it.
 const char* classOf(const Zeph_DialOutSettingData&) {
   return Zeph_DialOutSettingDataName;
@@ -117,16 +106,16 @@ const char* classOf(const Zeph_NextHopIPRoute&) {
 }
 
 void fill(const String& ns, const Zeph_DialOutSettingData& end, CIMInstance& instance) {
-  settingsProvider().Zeph_DialOutSettingDataToCIMInstance(ns, end, instance);
+  Zeph_DialOutSettingDataProvider::toInstance(ns, end, instance);
 }
 void fill(const String&, const Zeph_DialOutSettingData& end, CIMObjectPath& path) {
-  settingsProvider().Zeph_DialOutSettingDataToCIMObjectPath(end, path);
+  Zeph_DialOutSettingDataProvider::toObjectPath(end, path);
 }
 void fill(const String& ns, const Zeph_NextHopIPRoute& end, CIMInstance& instance) {
-  routeProvider().Zeph_NextHopIPRouteToCIMInstance(ns, end, instance);
+  Zeph_NextHopIPRouteProvider::toInstance(ns, end, instance);
 }
 void fill(const String&, const Zeph_NextHopIPRoute& end, CIMObjectPath& path) {
-  routeProvider().Zeph_NextHopIPRouteToCIMObjectPath(end, path);
+  Zeph_NextHopIPRouteProvider::toObjectPath(end, path);
 }
 
 // Hands the far end of every association of the started iteration to `emit`.

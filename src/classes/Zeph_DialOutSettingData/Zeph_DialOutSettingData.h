@@ -10,6 +10,8 @@
 
 // The CIM class name.
 inline constexpr char Zeph_DialOutSettingDataName[] = "Zeph_DialOutSettingData";
+// InstanceID of the one dial-out settings instance, the antecedent of every route.
+inline constexpr char Zeph_DialOutSettingDataInstanceID[] = "Velmar:Zeph_DialOutSettingData";
 
 class Zeph_DialOutSettingData
     : public ras::InstanceIdKeyed<Zeph_DialOutSettingData, Zeph_DialOutSettingDataInstanceManager> {

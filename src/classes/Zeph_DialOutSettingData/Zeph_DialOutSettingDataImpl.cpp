@@ -15,7 +15,6 @@
 #include "QvlShared.h"
 #include "Zeph_CommandRunner.h"
 #include "Zeph_ImpactWarning.h"
-#include "Zeph_ModuleGlobals.h"
 #include "Zeph_PlatformAccess.h"
 #include "Zeph_PlatformLog.h"
 #include "Zeph_RestingPlace.h"
@@ -30,16 +29,15 @@ std::vector<std::string> UserNames;
 
 namespace {
 
-const char* const kInstanceID = "Velmar:Zeph_DialOutSettingData";
+const char* const kInstanceID = Zeph_DialOutSettingDataInstanceID;
 const char* const kElementName = "Dial-Out Settings";
 
 const char* const kCallbackScript = "/qv/etc/ppp/callback_v2k";
 const char* const kPapSecrets = "/etc/ppp/pap-secrets";
 const char* const kChapSecrets = "/etc/ppp/chap-secrets";
 const char* const kPasswordFile = "/tmp/passwd";
-const char* const kSetLineScript = "/opt/etc/RasProviderScripts/setLine";
 const char* const kDialOutSuffix = "_dialout";
-const char* const kAddPasswordScript = "/opt/etc/RasProviderScripts/addPassword";
+constexpr auto kAddPasswordScript = helperScript("addPassword");
 
 const ShellVariable kNumber{kCallScript, "declare TELEPHONE_NUMBER", ShellVariable::Kind::Text};
 const ShellVariable kDelay{kCallbackScript, "declare CALLBACK_DELAY", ShellVariable::Kind::Number};
@@ -186,7 +184,9 @@ int Zeph_DialOutSettingDataImpl::getDialOutNumber(std::string& value,
 int Zeph_DialOutSettingDataImpl::setDialOutNumber(std::string value) {
   const int status = checkNumber(value);
   if (status != ras::kStatusOk) return status;
-  kNumber.edit(value);
+  const ShellCommand edit = kNumber.edit(value);
+  if (!edit.valid()) return ras::kStatusInvalidValue;
+  edit.run();
   dialOutNumber_ = value;
   Restart_ppp_add_v2k();
   return ras::kStatusOk;
@@ -199,7 +199,7 @@ int Zeph_DialOutSettingDataImpl::getDialRetries(unsigned short& value, ras::Qual
 
 int Zeph_DialOutSettingDataImpl::setDialRetries(unsigned short value) {
   if (value < kMinRetries || value > kMaxRetries) return kStatusRetriesOutOfRange;
-  kRetry.edit(static_cast<int>(value));
+  kRetry.edit(static_cast<int>(value)).run();
   dialRetries_ = value;
   return ras::kStatusOk;
 }
@@ -214,7 +214,7 @@ int Zeph_DialOutSettingDataImpl::setDialInterval(unsigned short value) {
   ras::Qualifiers unused;
   getDialInterval(current, unused);
   if (value < kMinInterval || value > kMaxInterval) return kStatusIntervalOutOfRange;
-  kDelay.edit(static_cast<int>(value));
+  kDelay.edit(static_cast<int>(value)).run();
   dialInterval_ = value;
   return ras::kStatusOk;
 }
@@ -247,7 +247,9 @@ int Zeph_DialOutSettingDataImpl::setDialOutUserName(std::string value) {
   const long index = userIndex(value);
   if (index < 0) return ras::kStatusInvalidValue;
   const std::string script = std::string(kSetLineScript) + kDialOutSuffix;
-  runCommand(kCmdSetUser, {script, UserNames[index]});
+  const ShellCommand select(kCmdSetUser, {script, UserNames[index]});
+  if (!select.valid()) return ras::kStatusInvalidValue;
+  select.run();
   platformLogDebug(formatText(kLogSelected, value.c_str()));
   userName_ = value;
   Restart_ppp_add_v2k();
@@ -262,9 +264,11 @@ int Zeph_DialOutSettingDataImpl::getDialOutPassword(std::string& value, ras::Qua
 int Zeph_DialOutSettingDataImpl::setDialOutPassword(std::string value) {
   // The secret is stored between double quotes of a tab-separated secrets line.
   if (!ras::staysData(value, ras::RestingPlace::SecretColumn)) return ras::kStatusInvalidValue;
+  ras::CommandSequence store;
   for (const char* secrets : {kPapSecrets, kChapSecrets}) {
-    runCommand(kCmdAddPassword, {kAddPasswordScript, userName_, password_, value, secrets});
+    store.add(kCmdAddPassword, {kAddPasswordScript, userName_, password_, value, secrets});
   }
+  if (!store.run()) return ras::kStatusInvalidValue;
   password_ = value;
   return ras::kStatusOk;
 }

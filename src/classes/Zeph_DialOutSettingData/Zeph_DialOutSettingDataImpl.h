@@ -10,7 +10,14 @@
 #include "OW_String.hpp"
 #include "Zeph_DialOutSettingData.h"
 #include "Zeph_InstanceManager.h"
-#include "Zeph_ModuleGlobals.h"
+
+// The account list of the last user-name get: the user names found and their indices as
+// text (both cleared after each get), and the list that the user-name setter indexes,
+// replaced by each get (it is the latest list, never older entries behind it). Requests run
+// one at a time, so one request's get never sees another's half-built list.
+extern OpenWBEM::StringArray vUserName;
+extern OpenWBEM::StringArray UserValueMap;
+extern std::vector<std::string> UserNames;
 
 class Zeph_DialOutSettingDataImpl : public Zeph_DialOutSettingData {
  public:

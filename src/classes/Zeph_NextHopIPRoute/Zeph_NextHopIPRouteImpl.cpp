@@ -18,21 +18,16 @@ using namespace ras;
 namespace {
 
 const char* const kElementName = "IP Routes";
-const char* const kHostMask = "255.255.255.255";
 const char* const kLoadedIfName = "ppp0";
 const char* const kBareInterface = "ppp";
 const char* const kWriteQualifier = "Write";
-const char* const kAddRouteScript = "/opt/etc/RasProviderScripts/addRoute";
+constexpr auto kAddRouteScript = helperScript("addRoute");
 
 // Malformed address; element already present at that index (the code characters 4 and 5).
 const char kInvalidAddress[] = {'#', 4, '#', 0};
 const char kElementPresent[] = {'#', 5, '#', 0};
 const char* const kInvalidIndex = "Invalid Route Index";
 
-const char* const kCmdNumberArg = "%s %d";
-const char* const kCmdTextArg = "%s %s";
-const char* const kCmdIndexText = "%s %d %s";
-const char* const kCmdIndexNumber = "%s %d %d";
 const char* const kRouteProbe = "\tROUTES[%d]=\"%s";
 
 const char* const kLogLoad = "Zeph_NextHopIPRouteImpl::Zeph_NextHopIPRouteImpl\n";
@@ -71,7 +66,7 @@ const ElementSetter kMetricSetter = {
     "Zeph_NextHopIPRouteImpl::setRouteMetric\n",
     "\tMETRIC[%d]=",
     "metricString: %s\n",
-    "routesString %s",
+    kRouteArray.readLog,  // the metric's current value is logged as a route's
     "%s  -i 's/^\tMETRIC\\[%d\\]=\\\"%s\\\"/\\tMETRIC\\[%d\\]=\\\"%d\\\"/'   %s",
     "Calling the set metric script\n",
 };
@@ -87,10 +82,12 @@ std::string probeFile(const std::string& probe) {
   return word;
 }
 
+enum class Written { InPlace, Appended, Refused };
+
 // Writes `value` as element `index` of the setter's array: an edit when the element exists,
 // else an append after the continuation of the previous element; then installs the route.
-// True when the element was appended.
-bool writeElement(const ElementSetter& setter, int index, const CommandArg& value) {
+// Every line is built before the first runs; when one cannot carry its values nothing runs.
+Written writeElement(const ElementSetter& setter, int index, const CommandArg& value) {
   platformLogDebug(kLogBeforeValue);
   platformLogDebug(value.text());
   platformLogDebug(kLogAfterValue);
@@ -98,23 +95,21 @@ bool writeElement(const ElementSetter& setter, int index, const CommandArg& valu
   platformLogDebug(formatText(kLogProbe, probe.c_str()));
   const std::string found = probeFile(probe);
   platformLogDebug(formatText(setter.probeLog, found.c_str()));
-  const bool append = found.empty();
-  if (!append) {
+  const ShellCommand install(kScriptNumber, {kAddRouteScript, index});
+  if (!found.empty()) {
     const std::string old = readRouteElement(setter.array, index, setter.currentLog);
-    runCommand(setter.inPlaceCommand, {kSed, index, old, index, value, kRouteScript});
-  } else if (index > 0) {
-    continueRouteElement(setter.array, index - 1, readRouteElement(setter.array, index - 1));
-    platformLogDebug(setter.appendLog);
-    runCommand(value.isNumber() ? kCmdIndexNumber : kCmdIndexText,
-               {setter.array.appendScript, index, value});
-  } else if (index == 0) {
-    runCommand(value.isNumber() ? kCmdNumberArg : kCmdTextArg, {setter.array.firstScript, value});
+    const ShellCommand edit(setter.inPlaceCommand, {kSed, index, old, index, value, kRouteScript});
+    if (!edit.valid() || !install.valid()) return Written::Refused;
+    edit.run();
   } else {
-    fail(kInvalidIndex);
+    if (index < 0) fail(kInvalidIndex);
+    const ElementAppend append(setter.array, index, value);
+    if (!append.valid() || !install.valid()) return Written::Refused;
+    append.run(setter.appendLog);
   }
-  runCommand(kCmdNumberArg, {kAddRouteScript, index});
+  install.run();
   Restart_ppp_add_v2k();
-  return append;
+  return found.empty() ? Written::Appended : Written::InPlace;
 }
 
 }  // namespace
@@ -138,15 +133,10 @@ Zeph_NextHopIPRouteImpl::Zeph_NextHopIPRouteImpl(const std::string& destination,
   const std::string found = probeFile(probe);
   platformLogDebug(formatText(kLogDestination, found.c_str()));
   if (!found.empty()) fail(kElementPresent);
-  if (index > 0) {
-    continueRouteElement(kRouteArray, index - 1, readRouteElement(kRouteArray, index - 1));
-    platformLogDebug(kLogSetRoute);
-    runCommand(kCmdIndexText, {kRouteArray.appendScript, index, destination});
-  } else if (index == 0) {
-    runCommand(kCmdTextArg, {kRouteArray.firstScript, destination});
-  } else {
-    fail(kInvalidIndex);
-  }
+  if (index < 0) fail(kInvalidIndex);
+  const ElementAppend append(kRouteArray, index, destination);
+  if (!append.valid()) fail(kInvalidAddress);
+  append.run(kLogSetRoute);
   destinationAddress_ = destination;
 }
 
@@ -179,7 +169,9 @@ int Zeph_NextHopIPRouteImpl::setDestinationMask(std::string value) {
   platformLogDebug(kMaskSetter.traceLog);
   const int status = maskStatus(value);
   if (status != kStatusOk) return status;
-  if (writeElement(kMaskSetter, index_, value)) destinationMask_ = value;
+  const Written written = writeElement(kMaskSetter, index_, value);
+  if (written == Written::Refused) return kStatusInvalidMask;
+  if (written == Written::Appended) destinationMask_ = value;
   return kStatusOk;
 }
 
@@ -190,7 +182,9 @@ int Zeph_NextHopIPRouteImpl::getRouteMetric(unsigned short& value, Qualifiers&) 
 
 int Zeph_NextHopIPRouteImpl::setRouteMetric(unsigned short value) {
   platformLogDebug(kMetricSetter.traceLog);
-  if (writeElement(kMetricSetter, index_, static_cast<int>(value))) routeMetric_ = value;
+  const Written written = writeElement(kMetricSetter, index_, static_cast<int>(value));
+  if (written == Written::Refused) return kStatusInvalidValue;
+  if (written == Written::Appended) routeMetric_ = value;
   return kStatusOk;
 }
 

@@ -52,7 +52,6 @@ class Zeph_NextHopIPRouteImplInstanceManager
 
  private:
   void renumberFollowing(int index, int count);
-  void destroyAssociation(const std::string& instanceID) const;
 
   int routeCount_ = 0;
 };

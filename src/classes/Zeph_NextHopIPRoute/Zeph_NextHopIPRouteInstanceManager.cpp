@@ -13,12 +13,16 @@ Zeph_NextHopIPRoute* Zeph_NextHopIPRouteInstanceManager::get(const std::string& 
   }
 }
 
+namespace {
+const char* const kLogCollection = "Size of Collection : \n";
+}  // namespace
+
 void Zeph_NextHopIPRouteInstanceManager::add(ras::ManagedObject* object) {
-  ras::platformLogDebug("Size of Collection : \n");
+  ras::platformLogDebug(kLogCollection);
   InstanceManager::add(object);
 }
 
 Zeph_NextHopIPRoute* Zeph_NextHopIPRouteInstanceManager::next() {
-  ras::platformLogDebug("Size of Collection : \n");
+  ras::platformLogDebug(kLogCollection);
   return InstanceManager::next();
 }

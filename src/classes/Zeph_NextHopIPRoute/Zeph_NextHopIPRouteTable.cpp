@@ -5,11 +5,11 @@
 
 #include "CFG_Exception.h"
 #include "Zeph_CommandRunner.h"
-#include "Zeph_DialOutRoutes.h"
 #include "Zeph_NextHopIPRouteImpl.h"
 #include "Zeph_PlatformAccess.h"
 #include "Zeph_PlatformLog.h"
 #include "Zeph_RouteArrays.h"
+#include "Zeph_RouteAssociations.h"
 #include "Zeph_TextFormat.h"
 
 using namespace ras;
@@ -18,11 +18,9 @@ namespace {
 
 const char* const kCountFormat = "declare -r NUMBER_OF_ROUTES=\"%s";
 const char* const kCountPrefix = "declare -r NUMBER_OF_ROUTES";
-const char* const kSettingsInstanceID = "Velmar:Zeph_DialOutSettingData";
-const char* const kSetCountScript = "/opt/etc/RasProviderScripts/setNumRoute";
+constexpr auto kSetCountScript = helperScript("setNumRoute");
 const char* const kDuplicate = "Destination Address specified already exists in the table.";
 
-const char* const kCmdCount = "%s %d";
 const char* const kCmdDelete = "%s %d %d\n";
 const char* const kCmdRemoveBackslash = "%s %d %s\n";
 
@@ -38,13 +36,11 @@ const char* const kLogDestroy =
 const char* const kLogOnlyRoute = "DELETING the First and the only Route\n";
 const char* const kLogIntermediate = "Remvoing Intermediate Entry\n";
 const char* const kLogLast = "Removing the last Entry\n";
-const char* const kLogDeletingAssociation = "Deleting the association\n";
-const char* const kLogDeletedAssociation = "Deleted the association\n";
 
 const RouteArray* const kArrays[] = {&kRouteArray, &kMaskArray, &kMetricArray};
 
 void setRouteCount(int count) {
-  runCommand(kCmdCount, {kSetCountScript, count});
+  runCommand(kScriptNumber, {kSetCountScript, count});
 }
 
 std::string instanceIDOf(const Zeph_NextHopIPRoute& route) {
@@ -107,8 +103,7 @@ Zeph_NextHopIPRoute* Zeph_NextHopIPRouteImplInstanceManager::createZeph_NextHopI
   platformLogDebug(kLogOutOfCatch);
   auto* route = new Zeph_NextHopIPRouteImpl(destination, routeCount_);
   try {
-    Zeph_DialOutRoutes::getInstanceManager()->createZeph_DialOutRoutes(kSettingsInstanceID,
-                                                                       destination);
+    if (routeAssociations().created != nullptr) routeAssociations().created(destination);
   } catch (const CFG_InstanceCreationFailed&) {
     throwWithoutMessage({kRouteImplSource, kRouteImplLine}, OpenWBEM::CIMException::NOT_SUPPORTED);
   }
@@ -142,7 +137,7 @@ void Zeph_NextHopIPRouteImplInstanceManager::destroyZeph_NextHopIPRoute(
   routeCount_ = count - 1;
   setRouteCount(routeCount_);
   runCommand(kRouteScript, {});
-  destroyAssociation(instanceIDOf(*route));
+  if (routeAssociations().removed != nullptr) routeAssociations().removed(instanceIDOf(*route));
   delete route;
 }
 
@@ -155,18 +150,7 @@ void Zeph_NextHopIPRouteImplInstanceManager::renumberFollowing(int index, int co
   }
 }
 
-void Zeph_NextHopIPRouteImplInstanceManager::destroyAssociation(
-    const std::string& instanceID) const {
-  Zeph_DialOutRoutesInstanceManager* associations = Zeph_DialOutRoutes::getInstanceManager();
-  for (associations->startIteration(); associations->hasNext();) {
-    Zeph_DialOutRoutes* association = associations->next();
-    std::string dependent;
-    Qualifiers unused;
-    association->getDependentInstanceID(dependent, unused);
-    if (dependent != instanceID) continue;
-    platformLogDebug(kLogDeletingAssociation);
-    associations->destroyZeph_DialOutRoutes(association);
-    platformLogDebug(kLogDeletedAssociation);
-    break;
-  }
+RouteAssociations& ras::routeAssociations() {
+  static RouteAssociations calls;
+  return calls;
 }

@@ -12,17 +12,38 @@
 
 namespace ras {
 
+namespace {
+
+// The helper scripts of the three arrays.
+constexpr auto kSetRoute = helperScript("setRoute");
+constexpr auto kSetfirstRoute = helperScript("setfirstRoute");
+constexpr auto kDelRoute = helperScript("delRoute");
+constexpr auto kDelfirstRoute = helperScript("delfirstRoute");
+constexpr auto kSetRouteRemovebackslash = helperScript("setRoute_removebackslash");
+constexpr auto kSetMask = helperScript("setMask");
+constexpr auto kSetfirstMask = helperScript("setfirstMask");
+constexpr auto kDelMask = helperScript("delMask");
+constexpr auto kDelfirstMask = helperScript("delfirstMask");
+constexpr auto kSetMaskRemovebackslash = helperScript("setMask_removebackslash");
+constexpr auto kSetMetric = helperScript("setMetric");
+constexpr auto kSetfirstMetric = helperScript("setfirstMetric");
+constexpr auto kDelMetric = helperScript("delMetric");
+constexpr auto kDelfirstMetric = helperScript("delfirstMetric");
+constexpr auto kSetMetricRemovebackslash = helperScript("setMetric_removebackslash");
+
+}  // namespace
+
 const RouteArray kRouteArray = {
     "\tROUTES[%d]=%s",
     "\tROUTES",
     "routesString %s",
     "ipAddr: %s",
     "%s -i 's/ROUTES\\[%d\\]=\\\"%s\\\"/ROUTES\\[%d\\]=\\\"%s\\\" \\\\/' %s",
-    "/opt/etc/RasProviderScripts/setRoute",
-    "/opt/etc/RasProviderScripts/setfirstRoute",
-    "/opt/etc/RasProviderScripts/delRoute",
-    "/opt/etc/RasProviderScripts/delfirstRoute",
-    "/opt/etc/RasProviderScripts/setRoute_removebackslash",
+    kSetRoute,
+    kSetfirstRoute,
+    kDelRoute,
+    kDelfirstRoute,
+    kSetRouteRemovebackslash,
 };
 
 const RouteArray kMaskArray = {
@@ -31,11 +52,11 @@ const RouteArray kMaskArray = {
     "mask %s",
     nullptr,
     "%s -i 's/NETMASK\\[%d\\]=\\\"%s\\\"/NETMASK\\[%d\\]=\\\"%s\\\" \\\\/' %s",
-    "/opt/etc/RasProviderScripts/setMask",
-    "/opt/etc/RasProviderScripts/setfirstMask",
-    "/opt/etc/RasProviderScripts/delMask",
-    "/opt/etc/RasProviderScripts/delfirstMask",
-    "/opt/etc/RasProviderScripts/setMask_removebackslash",
+    kSetMask,
+    kSetfirstMask,
+    kDelMask,
+    kDelfirstMask,
+    kSetMaskRemovebackslash,
 };
 
 const RouteArray kMetricArray = {
@@ -44,15 +65,26 @@ const RouteArray kMetricArray = {
     "metric %s",
     nullptr,
     "%s -i 's/METRIC\\[%d\\]=\\\"%s\\\"/METRIC\\[%d\\]=\\\"%s\\\" \\\\/' %s",
-    "/opt/etc/RasProviderScripts/setMetric",
-    "/opt/etc/RasProviderScripts/setfirstMetric",
-    "/opt/etc/RasProviderScripts/delMetric",
-    "/opt/etc/RasProviderScripts/delfirstMetric",
-    "/opt/etc/RasProviderScripts/setMetric_removebackslash",
+    kSetMetric,
+    kSetfirstMetric,
+    kDelMetric,
+    kDelfirstMetric,
+    kSetMetricRemovebackslash,
 };
 
 namespace {
+
 const char* const kLogContinuation = "cmdline for adding backward slash is %s\n";
+const char* const kCmdIndexNumber = "%s %d %d";
+
+ShellCommand appendLine(const RouteArray& array, int index, const CommandArg& value) {
+  if (index > 0) {
+    return ShellCommand(value.isNumber() ? kCmdIndexNumber : kScriptNumberText,
+                        {array.appendScript, index, value});
+  }
+  return ShellCommand(value.isNumber() ? kScriptNumber : kScriptText, {array.firstScript, value});
+}
+
 }  // namespace
 
 std::string readRouteElement(const RouteArray& array, int index, const char* log) {
@@ -68,11 +100,26 @@ std::string readRouteElement(const RouteArray& array, int index, const char* log
   return value;
 }
 
-void continueRouteElement(const RouteArray& array, int index, const std::string& value) {
-  const ShellCommand command(array.continuationCommand,
-                             {kSed, index, value, index, value, kRouteScript});
-  platformLogDebug(formatText(kLogContinuation, command.text().c_str()));
-  command.run();
+ElementAppend::ElementAppend(const RouteArray& array, int index, const CommandArg& value)
+    : append_(appendLine(array, index, value)) {
+  if (index <= 0) return;
+  const std::string before = readRouteElement(array, index - 1);
+  continuation_.emplace(
+      array.continuationCommand,
+      std::initializer_list<CommandArg>{kSed, index - 1, before, index - 1, before, kRouteScript});
+}
+
+bool ElementAppend::valid() const {
+  return append_.valid() && (!continuation_ || continuation_->valid());
+}
+
+void ElementAppend::run(const char* appendLog) const {
+  if (continuation_) {
+    platformLogDebug(formatText(kLogContinuation, continuation_->text().c_str()));
+    continuation_->run();
+    platformLogDebug(appendLog);
+  }
+  append_.run();
 }
 
 }  // namespace ras

@@ -3,7 +3,10 @@
 #ifndef ZEPH_ROUTEARRAYS_H
 #define ZEPH_ROUTEARRAYS_H
 
+#include <optional>
 #include <string>
+
+#include "Zeph_CommandRunner.h"
 
 namespace ras {
 
@@ -32,8 +35,22 @@ inline constexpr int kRouteImplLine = 0;
 // `log` replaces the array's own log line for the word read.
 std::string readRouteElement(const RouteArray& array, int index, const char* log = nullptr);
 
-// Gives element `index` (holding `value`) the continuation " \" before an element is appended.
-void continueRouteElement(const RouteArray& array, int index, const std::string& value);
+// The lines that add `value` as element `index` of an array, all built before either runs: for
+// an index above 0 the continuation " \" of the element before it (read now), then the
+// append script; for index 0 the first-element script alone.
+class ElementAppend {
+ public:
+  ElementAppend(const RouteArray& array, int index, const CommandArg& value);
+
+  bool valid() const;
+
+  // Runs the continuation (logged), logs `appendLog` and runs the append; valid().
+  void run(const char* appendLog) const;
+
+ private:
+  std::optional<ShellCommand> continuation_;
+  ShellCommand append_;
+};
 
 }  // namespace ras
 

@@ -4,10 +4,15 @@
 #ifndef ZEPH_PPPPROTOCOLENDPOINTIMPL_H
 #define ZEPH_PPPPROTOCOLENDPOINTIMPL_H
 
+#include <array>
 #include <string>
 
 #include "Zeph_InstanceManager.h"
 #include "Zeph_PPPProtocolEndpoint.h"
+
+// Results of the last ConnectLink and DisconnectLink of a PPP endpoint.
+extern int ConnectLinkReturn;
+extern int DisconnectLinkReturn;
 
 namespace ras {
 
@@ -26,6 +31,8 @@ struct PPPLink {
 };
 
 const PPPLink& pppLinkNamed(const std::string& name);
+// The two endpoints, dial-in first.
+const std::array<PPPLink, 2>& pppLinks();
 
 }  // namespace ras
 

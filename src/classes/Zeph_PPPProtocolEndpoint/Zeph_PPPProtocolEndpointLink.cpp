@@ -19,24 +19,17 @@ int DisconnectLinkReturn = 0;
 
 namespace {
 
-const char* const kGateOpen = "#$IF_ENABLE_CMD";
 const char* const kGateClosed = "$IF_ENABLE_CMD";
 const char* const kFirstWord = "%s";
 const char* const kBareInterface = "ppp";
-const char* const kSignalKillall = "/usr/bin/killall";
-const char* const kChat = "chat";
 const char* const kPeerFile = "/tmp/ip_addr";
 const char* const kPeerFormat = "P-t-P:%s";
 const char* const kApplicable = "Applicable";
 
-const char* const kCmdOpenGate = "%s -i 's/#\\?$IF_ENABLE_CMD/#$IF_ENABLE_CMD/' %s";
 const char* const kCmdMarkEnabled = "%s -i 's/#\\?DISABLED/#ENABLED/' %s";
 const char* const kCmdMarkDisabled = "%s -i 's/#\\?ENABLED/#DISABLED/' %s";
-const char* const kCmdContinue = "%s -s CONT %s\n";
-const char* const kCmdKillChat = "killall -9 %s >> /tmp/chatlog";
 const char* const kCmdPeerAddress =
-    "/sbin/ifconfig %s | grep \"inet\" | grep \"P-t-P\"|cut -b35-53 | cut -f1 -d\" \" > "
-    "/tmp/ip_addr";
+    "/sbin/ifconfig %s | grep \"inet\" | grep \"P-t-P\"|cut -b35-53 | cut -f1 -d\" \" > %s";
 const char* const kCmdPing = "ping -c 2 -w 2 -I %s %s";
 
 // The CIM error of a start script without its gate line; no source line is fixed for it.
@@ -49,10 +42,7 @@ constexpr unsigned char kLinkDown = 1;
 constexpr int kMethodResult = 1;
 
 const char* const kLogJobControl = "jobCntrl is";
-const char* const kLogBadModemStatus = "ERROR:modemStatus is not properly update in the PDR.. \n";
 const char* const kLogKillingChat = "Killing Chat Process in setIfStatus";
-const char* const kLogProcessCmd = "ProcessCmd is";
-const char* const kLogProcessCmd1 = "ProcessCmd1 is";
 const char* const kLogNoSleep = "Sleep Removed ...in setIfstatus";
 const char* const kLogOtherInterface = "The Interface name is %s and file contains %s";
 const char* const kLogConnectionStatus = "Connection Status is %c";
@@ -74,7 +64,7 @@ Modem modemState() {
   }
   if (status == kRegEnabled) return Modem::Enabled;
   if (status == kRegDisabled) return Modem::Disabled;
-  platformLogError(kLogBadModemStatus);
+  platformLogError(kBadModemStatusLog);
   return Modem::Unknown;
 }
 
@@ -97,9 +87,9 @@ void addApplicable(ras::Qualifiers& qualifiers, bool applicable) {
 
 // The service may run again: gate commented out, status line "#ENABLED", script resumed.
 void enableService(const PPPLink& link) {
-  runCommand(kCmdOpenGate, {kSed, link.controlFile});
+  openGate(link.controlFile);
   runCommand(kCmdMarkEnabled, {kSed, link.controlFile});
-  runCommand(kCmdContinue, {kSignalKillall, link.process});
+  continueProcess(link.process);
 }
 
 // The service stops at its gate; a link that is up is hung up (and mgetty killed for the
@@ -109,10 +99,10 @@ void disableService(const PPPLink& link, const std::string& interface) {
   runCommand(kCmdMarkDisabled, {kSed, link.controlFile});
   if (interface.empty()) return;
   platformLogDebug(kLogKillingChat);
-  runCommand(kCmdKillChat, {kChat});
-  logAndRun(kLogProcessCmd, hangupCommand(interface));
+  killChatIntoLog();
+  hangUp(interface);
   platformLogDebug(kLogNoSleep);
-  if (link.dialIn) logAndRun(kLogProcessCmd1, killMgettyCommand());
+  if (link.dialIn) killMgettyAfterHangUp();
 }
 
 }  // namespace
@@ -125,9 +115,8 @@ int Zeph_PPPProtocolEndpointImpl::getIfName(std::string& value, ras::Qualifiers&
 // Enabled while the gate line of the start script is commented out.
 int Zeph_PPPProtocolEndpointImpl::getIfStatus(bool& value, ras::Qualifiers&) const {
   const char* script = link().controlFile;
-  std::string word;
-  getParameterFromFile(script, kFirstWord, kGateOpen, word);
-  if (word == kGateOpen) {
+  std::string word = gateState(script);
+  if (word == kOpenGateLine) {
     value = true;
     return kStatusOk;
   }
@@ -219,7 +208,7 @@ int Zeph_PPPProtocolEndpointImpl::ConnectLink() {
   std::string interface;
   ras::Qualifiers unused;
   getIfName(interface, unused);
-  runCommand(kCmdPeerAddress, {interface});
+  runCommand(kCmdPeerAddress, {interface, kPeerFile});
   std::string peer;
   getConfigParameter(kPeerFile, kPeerFormat, &peer);
   platformLogDebug(kLogPeer);

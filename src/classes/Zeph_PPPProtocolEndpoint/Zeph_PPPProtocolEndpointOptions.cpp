@@ -13,7 +13,6 @@ using namespace ras;
 
 namespace {
 
-const char* const kSetLineScript = "/opt/etc/RasProviderScripts/setLine";
 const char* const kCallbackSuffix = "_callback";
 
 // Lines whose presence decides the compression options at construction.

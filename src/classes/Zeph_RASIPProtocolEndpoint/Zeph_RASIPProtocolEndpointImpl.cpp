@@ -11,12 +11,9 @@ using namespace ras;
 
 namespace {
 
-const char* const kSystemCreationClassName = "Zeph_System";
-const char* const kSystemName = "Zeph";
-const char* const kDialInName = "DialInEndpoint";
-const char* const kDialOutName = "DialOutEndpoint";
+const char* const kDialInName = kDialInEndpointName;
+const char* const kDialOutName = kDialOutEndpointName;
 const char* const kElementName = "Local IP Address Configuration";
-const char* const kHostMask = "255.255.255.255";
 const char* const kWrite = "Write";
 // The intervals are reported as this many seconds, whatever the members hold.
 constexpr int kIntervalSeconds = 1;
@@ -25,8 +22,6 @@ const char* const kTraceSetIPv4Address = "setIPv4Address\n";
 const char* const kTraceSetaddrAssignment = "setaddrAssignment\n";
 const char* const kTraceSetSubnetMask = "setSubnetMask\n";
 const char* const kLogLocal = "LOCAL IP\n";
-const char* const kLogLocalOnSet = "LOCAL IP \n";
-const char* const kLogRemote = "REMOTE IP\n";
 
 }  // namespace
 
@@ -69,17 +64,22 @@ int Zeph_RASIPProtocolEndpointImpl::getIPv4Address(std::string& value,
 // While the address is negotiated the line keeps an empty local part and the address is only
 // remembered; the call-back link takes it at once either way.
 int Zeph_RASIPProtocolEndpointImpl::setIPv4Address(std::string value) {
-  if (value.empty() || !isSettableAddress(value)) return kStatusOk;
+  // A malformed address is dropped, as it always was; one that passes the address check but
+  // would not stay data in the address line is refused.
+  if (value.empty() || IsIPValid(value.data()) != 1) return kStatusOk;
+  if (!isSettableAddress(value)) return kStatusInvalidValue;
   platformLogDebug(kTraceSetIPv4Address);
+  CommandSequence edits;
   if (dialIn()) {
     const AddressLine callback = readAddressLine(kCallbackOptions);
-    setAddressLine(kCallbackOptions, value, callback.remote);
+    edits.add(addressLineEdit(kCallbackOptions, value, callback.remote));
   }
-  ipv4Address_ = value;
   const char* file = optionsFile();
   const AddressLine line = readAddressLine(file);
   logAddressLine(kLogLocalOnSet, kLogRemote, line);
-  setAddressLine(file, addrAssignment_ ? std::string() : value, line.remote);
+  edits.add(addressLineEdit(file, addrAssignment_ ? std::string() : value, line.remote));
+  if (!edits.run()) return kStatusInvalidValue;
+  ipv4Address_ = value;
   if (!dialIn()) Restart_ppp_add_v2k();
   return kStatusOk;
 }
@@ -106,7 +106,10 @@ int Zeph_RASIPProtocolEndpointImpl::setaddrAssignment(bool value) {
   const char* file = optionsFile();
   const AddressLine line = readAddressLine(file);
   logAddressLine(kLogLocalOnSet, kLogRemote, line);
-  setAddressLine(file, value ? std::string() : ipv4Address_, line.remote);
+  const ShellCommand edit =
+      addressLineEdit(file, value ? std::string() : ipv4Address_, line.remote);
+  if (!edit.valid()) return kStatusInvalidValue;
+  edit.run();
   addrAssignment_ = value;
   if (!dialIn()) Restart_ppp_add_v2k();
   return kStatusOk;

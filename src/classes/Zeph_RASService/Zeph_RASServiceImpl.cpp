@@ -9,8 +9,6 @@ using namespace ras;
 
 namespace {
 
-const char* const kSystemCreationClassName = "Zeph_System";
-const char* const kSystemName = "Zeph";
 const char* const kServiceName = "RASService";
 
 // The status a failed registry write reports to the provider.
@@ -18,7 +16,6 @@ constexpr int kStatusRegistryWriteFailed = 100;
 
 const char* const kLogGetModemStatus = "Zeph_RASServiceImpl::getmodemStatus\n";
 const char* const kLogSetModemStatus = "Zeph_RASServiceImpl::setmodemStatus\n";
-const char* const kLogBadModemStatus = "ERROR:modemStatus is not properly update in the PDR.. \n";
 
 // Neither direction may run: gates closed, links hung up, mgetty and chat killed.
 void stopBothDirections() {
@@ -46,7 +43,7 @@ int Zeph_RASServiceImpl::getmodemStatus(bool& status, ras::Qualifiers&) const {
   } else if (value == kRegDisabled) {
     stopBothDirections();
   } else {
-    platformLogError(kLogBadModemStatus);
+    platformLogError(kBadModemStatusLog);
   }
   return ras::kStatusOk;
 }

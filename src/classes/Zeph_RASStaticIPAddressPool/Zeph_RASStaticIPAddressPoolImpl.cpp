@@ -14,7 +14,6 @@ namespace {
 const char* const kDialInID = "Velmar:DialInRASStaticIPAddressPool";
 const char* const kDialOutID = "Velmar:DialOutRASStaticIPAddressPool";
 const char* const kElementName = "IP Address Pool";
-const char* const kHostMask = "255.255.255.255";
 const char* const kWrite = "Write";
 constexpr int kStatusMalformedAddress = 12;
 
@@ -23,8 +22,6 @@ const char* const kTraceConstructor =
 const char* const kTraceSetipAddr = "Zeph_RASStaticIPAddressPoolImpl::setipAddr\n";
 const char* const kTraceSetuseStaticPool = "Zeph_RASStaticIPAddressPoolImpl::setuseStaticPool\n";
 const char* const kLogLocal = "LOCAL IP\n";
-const char* const kLogLocalOnSet = "LOCAL IP \n";
-const char* const kLogRemote = "REMOTE IP\n";
 const char* const kLogPoolRemote = "Static Pool REMOTE IP\n";
 const char* const kLogRemoteLength = "%d";
 const char* const kLogPoolOn = "setting static pool to true";
@@ -85,23 +82,19 @@ int Zeph_RASStaticIPAddressPoolImpl::getipAddr(std::string& value, Qualifiers& q
 int Zeph_RASStaticIPAddressPoolImpl::setipAddr(std::string value) {
   platformLogDebug(kTraceSetipAddr);
   if (!value.empty() && !isSettableAddress(value)) return kStatusMalformedAddress;
+  CommandSequence edits;
   if (dialIn()) {
     const AddressLine callback = readAddressLine(kCallbackOptions);
-    setAddressLine(kCallbackOptions, callback.local, value);
+    edits.add(addressLineEdit(kCallbackOptions, callback.local, value));
   }
-  setIPAddrForInterface(optionsFile(), value);
+  const AddressLine line = readAddressLine(optionsFile());
+  logAddressLine(kLogLocal, kLogRemote, line);
+  edits.add(addressLineEdit(optionsFile(), line.local, value));
+  if (!edits.run()) return kStatusMalformedAddress;
+  ipAddr_ = value;
   platformLogDebug(kLogInstanceID);
   platformLogDebug(instanceID());
   restartLink();
-  return kStatusOk;
-}
-
-int Zeph_RASStaticIPAddressPoolImpl::setIPAddrForInterface(const std::string& file,
-                                                           const std::string& address) {
-  const AddressLine line = readAddressLine(file.c_str());
-  logAddressLine(kLogLocal, kLogRemote, line);
-  setAddressLine(file.c_str(), line.local, address);
-  ipAddr_ = address;
   return kStatusOk;
 }
 
@@ -122,7 +115,9 @@ int Zeph_RASStaticIPAddressPoolImpl::setuseStaticPool(bool value) {
   const char* file = optionsFile();
   const AddressLine line = readAddressLine(file);
   logAddressLine(kLogLocalOnSet, value ? kLogRemote : kLogPoolRemote, line);
-  setAddressLine(file, line.local, value ? ipAddr_ : std::string());
+  const ShellCommand edit = addressLineEdit(file, line.local, value ? ipAddr_ : std::string());
+  if (!edit.valid()) return kStatusInvalidValue;
+  edit.run();
   useStaticPool_ = value;
   platformLogDebug(kLogInstanceID);
   platformLogDebug(instanceID());

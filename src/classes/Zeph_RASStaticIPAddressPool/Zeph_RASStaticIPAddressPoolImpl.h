@@ -26,9 +26,6 @@ class Zeph_RASStaticIPAddressPoolImpl : public Zeph_RASStaticIPAddressPool {
   int getEndAddress(std::string& value, ras::Qualifiers&) const override;
   int getAddressType(unsigned short& value, ras::Qualifiers&) const override;
 
-  // Puts `address` as the remote part of the address line of `file`, keeping its local part.
-  int setIPAddrForInterface(const std::string& file, const std::string& address);
-
  private:
   bool dialIn() const;
   const char* optionsFile() const;

@@ -25,8 +25,6 @@ namespace {
 
 using Side = Zeph_SerialPortImpl::Side;
 
-const char* const kSystemCreationClassName = "Zeph_System";
-const char* const kSystemName = "Zeph";
 const char* const kDialInID = "DialInSerialPort";
 const char* const kDialOutID = "DialOutSerialPort";
 const char* const kElementName = "SerialPort";
@@ -103,9 +101,12 @@ std::string readPort(const char* script) {
   return port;
 }
 
-void writePort(const Side& side, const std::string& port) {
-  if (side.mgettyConfig != nullptr) runCommand(kCmdMgettyPort, {kSed, port, side.mgettyConfig});
-  runCommand(portEditFormat().c_str(), {kSed, port, side.portTarget});
+// Both port lines of the side, or none when the name cannot stand in either.
+bool writePort(const Side& side, const std::string& port) {
+  CommandSequence edits;
+  if (side.mgettyConfig != nullptr) edits.add(kCmdMgettyPort, {kSed, port, side.mgettyConfig});
+  edits.add(portEditFormat().c_str(), {kSed, port, side.portTarget});
+  return edits.run();
 }
 
 void writeFlowControl(const Side& side, const FlowSetting& setting) {
@@ -160,7 +161,8 @@ int Zeph_SerialPortImpl::setName(std::string value) {
   if (!isAlphanumeric(value)) return kStatusInvalidValue;
   platformLogDebug(kTraceSetName);
   platformLogDebug(value);
-  if (const Side* own = side()) writePort(*own, value);
+  const Side* own = side();
+  if (own != nullptr && !writePort(*own, value)) return kStatusInvalidValue;
   name_ = value;
   return kStatusOk;
 }

@@ -13,17 +13,14 @@ using namespace ras;
 
 namespace {
 
-const char* const kSystemCreationClassName = "Zeph_System";
-const char* const kSystemName = "Zeph";
 const char* const kAnsweringID = "SoftModemIn";
 const char* const kCallingID = "SoftModemOut";
 const char* const kElementName = " DSP Soft Modem ";
 const char* const kName = " V.42 Modem ";
 
-const char* const kSetModemParam = "/opt/etc/RasProviderScripts/setModemParam";
-const char* const kGetModemParam = "/opt/etc/RasProviderScripts/getModemParam";
+constexpr auto kSetModemParam = helperScript("setModemParam");
+constexpr auto kGetModemParam = helperScript("getModemParam");
 // "setModemParam PARAMETER CODE" and "getModemParam PARAMETER > RESULT_FILE".
-const char* const kCmdSetModemParam = "%s %d %s";
 const char* const kCmdGetModemParam = "%s %d > %s";
 
 // One option: the number the helper scripts address it by, the /tmp file its code is read
@@ -100,7 +97,7 @@ std::string callingEditFormat(const ModemOption& option) {
 }
 
 void writeModemCode(const ModemOption& option, const std::string& code) {
-  runCommand(kCmdSetModemParam, {kSetModemParam, option.parameter, code});
+  runCommand(kScriptNumberText, {kSetModemParam, option.parameter, code});
 }
 
 void writeCallingCode(const ModemOption& option, const std::string& code) {

@@ -58,3 +58,5 @@ SubscriptionEnding::~SubscriptionEnding() {
 }
 
 }  // namespace ras
+
+ras::CurrentCIMOMHandle hdl;

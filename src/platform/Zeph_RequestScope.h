@@ -72,4 +72,7 @@ class SubscriptionEnding {
 
 }  // namespace ras
 
+// The CIMOM handle of the request being served on this thread; empty between requests.
+extern ras::CurrentCIMOMHandle hdl;
+
 #endif

@@ -3,7 +3,6 @@
 
 #include "OW_CIMQualifier.hpp"
 #include "OW_CIMValue.hpp"
-#include "Zeph_ModuleGlobals.h"
 
 bool ConnectionStatus = false;
 bool DialOutConnectionStatus = false;
@@ -12,8 +11,6 @@ std::string check_key;
 namespace {
 
 constexpr char kImpactWarning[] = "ImpactWarning";
-constexpr char kDialInEndpoint[] = "DialInEndpoint";
-constexpr char kDialOutEndpoint[] = "DialOutEndpoint";
 constexpr char kDialInWarning[] =
     "Dial-In Session is in Progress.Change will take effect for Next Dial-In Session";
 constexpr char kDialOutWarning[] =
@@ -28,8 +25,9 @@ void appendWarning(OpenWBEM::Array<OpenWBEM::CIMQualifier>& qualifiers, const ch
 }  // namespace
 
 void ShowWarningMessage(OpenWBEM::Array<OpenWBEM::CIMQualifier>& qualifiers) {
-  if (ConnectionStatus && check_key == kDialInEndpoint) appendWarning(qualifiers, kDialInWarning);
-  if (DialOutConnectionStatus && check_key == kDialOutEndpoint) {
+  if (ConnectionStatus && check_key == ras::kDialInEndpointName)
+    appendWarning(qualifiers, kDialInWarning);
+  if (DialOutConnectionStatus && check_key == ras::kDialOutEndpointName) {
     appendWarning(qualifiers, kDialOutWarning);
   }
 }

@@ -2,6 +2,9 @@
 #ifndef ZEPH_MODULECLASSES_H
 #define ZEPH_MODULECLASSES_H
 
+#include <string>
+#include <vector>
+
 #include "OW_CppAssociatorProviderIFC.hpp"
 #include "OW_CppMethodProviderIFC.hpp"
 #include "OW_ProviderEnvironmentIFC.hpp"
@@ -20,6 +23,9 @@ const ModuleClass* findModuleClass(const OpenWBEM::String& className);
 
 // The association provider of `assocClass`, or null; only Zeph_DialOutRoutes has one.
 OpenWBEM::CppAssociatorProviderIFC* findAssociationProvider(const OpenWBEM::String& assocClass);
+
+// The names of the module's classes, in canonical class order.
+std::vector<std::string> moduleClassNames();
 
 // initialize and cleanup of every per-class provider, in canonical class order.
 void initializeModuleClasses(const OpenWBEM::ProviderEnvironmentIFCRef& env);
