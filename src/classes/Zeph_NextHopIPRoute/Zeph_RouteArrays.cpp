@@ -4,7 +4,9 @@
 
 #include <sys/stat.h>
 
+#include <climits>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <vector>
 
@@ -69,19 +71,20 @@ constexpr std::size_t kArrayCount = sizeof kArrays / sizeof kArrays[0];
 // (index and word, quotes included) when the array's read format for that index takes it.
 struct ArrayLine {
   std::string text;
-  int index;
+  int index = -1;
   std::string word;
 };
 
 // The route file's array lines from one read of it, kept within one request while no command
 // has run (fileEpoch) and the file looks unchanged: a delete renumbers every later route and
 // an enumeration reads three elements per route, which would otherwise read the whole file
-// again each time.
+// again each time. An array's elements are worked out at its first read.
 struct RouteFileSnapshot {
   bool valid = false;
   unsigned long epoch = 0;
   struct stat file {};
   std::vector<ArrayLine> lines[kArrayCount];
+  bool parsed[kArrayCount] = {};
 };
 
 RouteFileSnapshot snapshot;
@@ -98,22 +101,27 @@ std::string readFormat(const RouteArray& array, int index) {
   return format;
 }
 
-// The element a line holds. Only the index written in its brackets can match the line; it
-// is checked with that index's own read format, as a read of the element scans the line.
-ArrayLine parseLine(const RouteArray& array, const char* line) {
-  ArrayLine parsed{line, -1, {}};
-  const char* open = std::strchr(line, '[');
-  int index = 0;
-  if (open == nullptr || std::sscanf(open, "[%d]", &index) != 1) return parsed;
+// Works out the element of a line that begins with the array's prefix. The read format of
+// element i is the prefix, "[i]=" and a bounded "%s": the line holds element i when the
+// prefix is followed by "[", the decimal digits of i as printf writes them, "]=" and a word.
+void parseLine(ArrayLine& line, std::size_t prefixLength) {
+  static const std::string wordFormat = [] {
+    std::string bounded;
+    boundedScanFormat("%s", ScanTarget::Text, kFileValueSize, bounded);
+    return bounded;
+  }();
+  const char* p = line.text.c_str() + prefixLength;
+  if (*p++ != '[') return;
+  const char* digits = p;
+  while (*p >= '0' && *p <= '9') ++p;
+  const std::size_t count = static_cast<std::size_t>(p - digits);
+  if (count == 0 || count > 10 || (count > 1 && digits[0] == '0')) return;
+  const long long index = std::strtoll(std::string(digits, count).c_str(), nullptr, 10);
+  if (index > INT_MAX || p[0] != ']' || p[1] != '=') return;
   char found[kFileValueSize] = {};
-  std::string bounded;
-  if (boundedScanFormat(readFormat(array, index).c_str(), ScanTarget::Text, sizeof found,
-                        bounded) &&
-      std::sscanf(line, bounded.c_str(), found) == 1) {
-    parsed.index = index;
-    parsed.word = found;
-  }
-  return parsed;
+  if (std::sscanf(p + 2, wordFormat.c_str(), found) != 1) return;
+  line.index = static_cast<int>(index);
+  line.word = found;
 }
 
 // Brings the snapshot up to date; false when the file cannot be opened.
@@ -127,13 +135,16 @@ bool currentSnapshot() {
   const unsigned long epoch = fileEpoch();
   FILE* stream = std::fopen(kRouteScript, "r+");
   if (stream == nullptr) return false;
-  for (auto& lines : snapshot.lines) lines.clear();
+  for (std::size_t a = 0; a < kArrayCount; ++a) {
+    snapshot.lines[a].clear();
+    snapshot.parsed[a] = false;
+  }
   char line[kLineSize] = {};
   while (std::fgets(line, sizeof line, stream) != nullptr) {
     for (std::size_t a = 0; a < kArrayCount; ++a) {
       const char* prefix = kArrays[a]->prefix;
       if (std::strncmp(line, prefix, std::strlen(prefix)) == 0) {
-        snapshot.lines[a].push_back(parseLine(*kArrays[a], line));
+        snapshot.lines[a].push_back({line, -1, {}});
       }
     }
   }
@@ -145,7 +156,13 @@ bool currentSnapshot() {
 
 // Element `index`: the word of the last line that holds it. With debug logging on, the
 // lines the file reader logs for each line it scans (the line and the word found so far).
-std::string elementOf(const std::vector<ArrayLine>& lines, int index) {
+std::string elementOf(std::size_t a, int index) {
+  std::vector<ArrayLine>& lines = snapshot.lines[a];
+  if (!snapshot.parsed[a]) {
+    const std::size_t prefixLength = std::strlen(kArrays[a]->prefix);
+    for (ArrayLine& line : lines) parseLine(line, prefixLength);
+    snapshot.parsed[a] = true;
+  }
   const bool logging = logger && logger->getLogLevel() >= OpenWBEM::E_DEBUG_LEVEL;
   std::string word;
   for (const ArrayLine& line : lines) {
@@ -167,7 +184,7 @@ std::string readWord(const RouteArray& array, int index) {
     return word;
   }
   for (std::size_t a = 0; a < kArrayCount; ++a) {
-    if (kArrays[a] == &array) return elementOf(snapshot.lines[a], index);
+    if (kArrays[a] == &array) return elementOf(a, index);
   }
   return word;
 }
