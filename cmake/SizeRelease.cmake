@@ -8,6 +8,14 @@ if(RAS_SIZE_RELEASE)
   add_compile_options(-Os -ffunction-sections -fdata-sections)
   add_link_options(-Os -ffunction-sections -fdata-sections LINKER:--gc-sections)
   set(CMAKE_INTERPROCEDURAL_OPTIMIZATION ON)
+  # Relative relocations packed (DT_RELR): the vtables and pointer tables of the module
+  # otherwise carry 24 bytes of relocation per pointer. Needs glibc 2.36 on the target, which
+  # the package states.
+  include(CheckLinkerFlag)
+  check_linker_flag(CXX "LINKER:-z,pack-relative-relocs" RAS_HAVE_PACKED_RELOCS)
+  if(RAS_HAVE_PACKED_RELOCS)
+    add_link_options($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,SHARED_LIBRARY>:LINKER:-z,pack-relative-relocs>)
+  endif()
   # Stripped at link time, so that the build tree holds what ships.
   add_link_options($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,SHARED_LIBRARY>:LINKER:--strip-all>)
 endif()
