@@ -3,6 +3,8 @@
 # the install component "runtime"; nothing else of the project has install rules (tests,
 # ras-cim, the platform stand-ins and the appliance stay in the build tree).
 include(GNUInstallDirs)
+# install and cpack need only what they install, not every test of the build.
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 
 set(RAS_PROVIDER_DIR ${OPENWBEM_PREFIX}/lib/openwbem/c++providers CACHE PATH
     "The CIMOM's C++ provider directory (cppprovifc.prov_location) the module is installed into")
