@@ -11,6 +11,7 @@ set -eu
 here=$(cd "$(dirname "$0")" && pwd)
 # shellcheck source=tests/integration/cimom.sh
 . "$here/../../tests/integration/cimom.sh"
+# shellcheck disable=SC2034 # read by cimom.sh
 CIMOM_AUTH=none
 
 classes=$(sed -n 's/^class \(Zeph_[A-Za-z0-9_]*\).*/\1/p' "$RAS_MOF_DIR/Zeph_RAS.mof")

@@ -18,7 +18,9 @@ dpkg-deb -x "$RAS_DEB" "$root" || { echo "not ok - dpkg-deb -x $RAS_DEB"; exit 1
 register=$root/usr/bin/zeph-ras-register
 schema=$root/usr/share/zeph-ras/mof/Zeph_RAS.mof
 CIMOM_PROVIDER_DIR=$root$OW_PREFIX/lib/openwbem/c++providers
+# shellcheck disable=SC2034 # read by cimom.sh
 RAS_MODULE=/nonexistent   # nothing from the build tree
+# shellcheck disable=SC2034
 CIMOM_AUTH=none
 
 check "the provider directory holds the module alone" "libZeph_RASProvider.so" \
@@ -45,7 +47,7 @@ rm -rf "$CIMOM_DIR"
 mkdir -p "$CIMOM_DIR"
 if ! cimom_start; then
   echo "not ok - the CIMOM starts with the package's module and schema"
-  cat "$CIMOM_DIR/owcimomd.log" 2>/dev/null | tail -20
+  tail -20 "$CIMOM_DIR/owcimomd.log" 2>/dev/null
   exit 1
 fi
 trap cimom_stop EXIT
