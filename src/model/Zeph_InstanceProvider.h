@@ -120,7 +120,9 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
 
   // The change sequence: startChange, each writable property in the instance's order
   // (checks, then setter), endChange. A failure stops it; earlier properties stay applied.
-  void modifyInstance(W& object, const CIMInstance& instance) { runChange(ops(), object, instance); }
+  void modifyInstance(W& object, const CIMInstance& instance) {
+    runChange(ops(), object, instance);
+  }
 
  protected:
   // Fills `instance` with every property whose getter succeeds, in table order, and names
@@ -152,7 +154,8 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
         [](const void* source, const char* name) {
           return static_cast<const CIMInstance*>(source)->getProperty(name);
         },
-        &instance, {lines().instanceKeyMissing, lines().instanceKeyNull, lines().instanceNoInstance});
+        &instance,
+        {lines().instanceKeyMissing, lines().instanceKeyNull, lines().instanceNoInstance});
   }
 
   // Creates the object named by the new instance's keys (absent or null keys are empty).
@@ -181,9 +184,12 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
 
   // The class's rows and typed accessors for the shared provider code (ProviderCore).
   static const ClassOps& ops() {
-    static const ClassOps classOps = {
-        {Traits::kClass, Traits::kSource, Traits::kLines}, &rowCount, &rowAt, &readRow,
-        &writeRow, &acceptRow};
+    static const ClassOps classOps = {{Traits::kClass, Traits::kSource, Traits::kLines},
+                                      &rowCount,
+                                      &rowAt,
+                                      &readRow,
+                                      &writeRow,
+                                      &acceptRow};
     return classOps;
   }
   static std::size_t rowCount() { return Traits::properties().size(); }

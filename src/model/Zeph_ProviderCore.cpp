@@ -176,7 +176,7 @@ void runChange(const ClassOps& ops, ManagedObject& object, const OpenWBEM::CIMIn
     const OpenWBEM::CIMValue value = property.getValue();
     if (!writable || !value) continue;
     raiseSetterStatus(ops.site, hasCimType(row.type, value) ? ops.write(index, object, value)
-                                                             : kStatusInvalidValue);
+                                                            : kStatusInvalidValue);
   }
   checkChangeEnded(ops.site, object.endChange());
 }
@@ -189,8 +189,8 @@ void refuseUnacceptable(const ClassOps& ops, const OpenWBEM::CIMInstance& instan
     const bool writable = writableRow(ops, property.getName(), row, index);
     const OpenWBEM::CIMValue value = property.getValue();
     if (!writable || !value) continue;
-    raiseSetterStatus(ops.site, hasCimType(row.type, value) ? ops.accept(index, value)
-                                                             : kStatusInvalidValue);
+    raiseSetterStatus(ops.site,
+                      hasCimType(row.type, value) ? ops.accept(index, value) : kStatusInvalidValue);
   }
 }
 

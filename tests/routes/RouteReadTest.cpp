@@ -72,7 +72,9 @@ TEST_F(RouteReadTest, AnEditByACommandIsSeenByTheNextRead) {
 // The file rewritten in place between two requests, to the same size within the file
 // system's time resolution: the next request reads it again.
 TEST_F(RouteReadTest, AnEditBetweenTwoRequestsIsSeen) {
-  const auto mask = [&] { return textOf(get(route("10.1.0.0")).getPropertyValue("DestinationMask")); };
+  const auto mask = [&] {
+    return textOf(get(route("10.1.0.0")).getPropertyValue("DestinationMask"));
+  };
   EXPECT_EQ(mask(), "255.255.0.0");
   std::string text = appliance::readFile(kRouteFile);
   text.replace(text.find("255.255.0.0"), 11, "255.254.0.0");
