@@ -14,56 +14,50 @@
 
 namespace ras {
 
-// Abstract manager of wrapper W. The base cannot create or delete objects; it keeps the map
-// ordered by key (byte-wise) and does not own its entries.
+// The map of a manager, shared by every class: objects by key, ordered byte-wise, not owned,
+// with one iteration cursor. Compiled once rather than once per class.
+class ObjectMap {
+ public:
+  ObjectMap() = default;
+  ObjectMap(const ObjectMap&) = delete;
+  ObjectMap& operator=(const ObjectMap&) = delete;
+  virtual ~ObjectMap();
+
+  virtual int init();
+
+  // Inserts or replaces the entry under the object's key.
+  virtual void add(ManagedObject* object);
+
+  // Erases the entry under the object's key; the cursor moves on if it stood there.
+  virtual void remove(ManagedObject* object);
+
+  virtual void startIteration();
+  virtual bool hasNext() const;
+  virtual void endIteration();
+
+ protected:
+  // The object under `key`, or at the cursor (which then moves on); CFG_NoInstance if none.
+  ManagedObject* objectAt(const std::string& key) const;
+  ManagedObject* objectAtCursor();
+
+ private:
+  using Objects = std::map<std::string, ManagedObject*>;
+  Objects objects_;
+  Objects::iterator cursor_ = objects_.end();
+};
+
+// Abstract manager of wrapper W. The base cannot create or delete objects.
 template <class W>
-class InstanceManager {
+class InstanceManager : public ObjectMap {
  public:
   using Wrapper = W;
   using KeyValues = std::vector<std::string>;
 
-  InstanceManager() = default;
-  InstanceManager(const InstanceManager&) = delete;
-  InstanceManager& operator=(const InstanceManager&) = delete;
-  virtual ~InstanceManager() = default;
-
-  virtual int init() { return kStatusOk; }
   virtual W* create(const KeyValues&) { throw CFG_InstanceCreationFailed(); }
   virtual void destroy(W*) { throw CFG_InstanceDeletionFailed(); }
 
-  // Inserts or replaces the entry under the object's key.
-  virtual void add(ManagedObject* object) { objects_[object->managerKey()] = object; }
-
-  // Erases the entry under the object's key; the cursor moves on if it stood there.
-  virtual void remove(ManagedObject* object) {
-    const auto found = objects_.find(object->managerKey());
-    if (found == objects_.end()) return;
-    if (found == cursor_) ++cursor_;
-    objects_.erase(found);
-  }
-
-  virtual W* get(const std::string& key) const {
-    const auto found = objects_.find(std::string() + key);
-    if (found == objects_.end() || found->second == nullptr) throw CFG_NoInstance();
-    return static_cast<W*>(found->second);
-  }
-
-  virtual void startIteration() { cursor_ = objects_.begin(); }
-  virtual bool hasNext() const { return cursor_ != objects_.end(); }
-
-  virtual W* next() {
-    if (cursor_ == objects_.end() || cursor_->second == nullptr) throw CFG_NoInstance();
-    W* object = static_cast<W*>(cursor_->second);
-    ++cursor_;
-    return object;
-  }
-
-  virtual void endIteration() { cursor_ = objects_.end(); }
-
- private:
-  using ObjectMap = std::map<std::string, ManagedObject*>;
-  ObjectMap objects_;
-  typename ObjectMap::iterator cursor_ = objects_.end();
+  virtual W* get(const std::string& key) const { return static_cast<W*>(objectAt(key)); }
+  virtual W* next() { return static_cast<W*>(objectAtCursor()); }
 };
 
 // Manager that builds objects of the implementation class Impl; `Base` is the class's named

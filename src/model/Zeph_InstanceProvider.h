@@ -14,6 +14,7 @@
 #include "OW_CppInstanceProviderIFC.hpp"
 #include "OW_CppMethodProviderIFC.hpp"
 #include "Zeph_PropertyAccess.h"
+#include "Zeph_ProviderCore.h"
 #include "Zeph_ProviderLines.h"
 
 namespace ras {
@@ -82,7 +83,7 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
 
   CIMObjectPath createInstance(const EnvRef&, const String& ns,
                                const CIMInstance& newInstance) override {
-    refuseUnacceptable(newInstance);
+    ras::refuseUnacceptable(ops(), newInstance);
     W* object = createFrom(newInstance);
     try {
       modifyInstance(*object, newInstance);
@@ -120,22 +121,7 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
   // The change sequence: startChange, each writable property in the instance's order
   // (checks, then setter), endChange. A failure stops it; earlier properties stay applied.
   void modifyInstance(W& object, const CIMInstance& instance) {
-    const int started = object.startChange();
-    if (started != kStatusOk) {
-      throwProviderError(at(lines().changeNotStarted), OpenWBEM::CIMException::FAILED,
-                         changeNotStartedMessage(started));
-    }
-    const OpenWBEM::CIMPropertyArray properties = instance.getProperties();
-    for (const OpenWBEM::CIMProperty& property : properties) applyIfWritable(object, property);
-    const int ended = object.endChange();
-    if (ended == kStatusInvalidValue || ended == kStatusInvalidValues) {
-      throwProviderError(at(lines().valuesInvalid), OpenWBEM::CIMException::INVALID_PARAMETER,
-                         valuesInvalidMessage(Traits::kClass));
-    }
-    if (ended != kStatusOk) {
-      throwProviderError(at(lines().changeNotCommitted), OpenWBEM::CIMException::FAILED,
-                         statusMessage(ended));
-    }
+    runChange(ops(), object, instance);
   }
 
   // The conversions, shared with the association whose end the class is.
@@ -143,31 +129,12 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
   // it by its key properties, so that the CIMOM derives the same path as enumInstanceNames
   // (the properties themselves carry only the getters' qualifiers).
   static void toInstance(const String& ns, const W& object, CIMInstance& instance) {
-    Qualifiers qualifiers;
-    OpenWBEM::CIMPropertyArray keys;
-    for (const Property<W>& row : Traits::properties()) {
-      qualifiers.clear();
-      OpenWBEM::CIMValue value(OpenWBEM::CIMNULL);
-      if (readValue(row, object, ns, qualifiers, value) != kStatusOk) continue;
-      OpenWBEM::CIMProperty property(row.name, value);
-      if (row.role == Role::Key) keys.push_back(property);
-      property.setQualifiers(qualifiers);
-      instance.setProperty(property);
-    }
-    instance.setKeys(keys);
+    buildInstance(ops(), ns, object, instance);
   }
 
   // Sets the key(s) of `path`; an unreadable key means the object cannot be named.
   static void toObjectPath(const W& object, CIMObjectPath& path) {
-    Qualifiers scratch;
-    for (const Property<W>& row : Traits::properties()) {
-      if (row.role != Role::Key) continue;
-      OpenWBEM::CIMValue value(OpenWBEM::CIMNULL);
-      if (readValue(row, object, path.getNameSpace(), scratch, value) != kStatusOk) {
-        throwWithoutMessage(at(lines().keyNotReadable), OpenWBEM::CIMException::NOT_FOUND);
-      }
-      path.setKeyValue(row.name, value);
-    }
+    buildObjectPath(ops(), object, path);
   }
 
  protected:
@@ -176,24 +143,28 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
     if (path.getKeys().size() > W::kKeyCount) {
       throwWithoutMessage(at(lines().pathNoInstance), OpenWBEM::CIMException::NOT_FOUND);
     }
-    return find([&](const char* name) { return path.getKey(name); },
-                {lines().pathKeyMissing, lines().pathKeyNull, lines().pathNoInstance});
+    return find(
+        [](const void* source, const char* name) {
+          return static_cast<const CIMObjectPath*>(source)->getKey(name);
+        },
+        &path, {lines().pathKeyMissing, lines().pathKeyNull, lines().pathNoInstance});
   }
 
   W* lookup(const CIMInstance& instance) const {
-    return find([&](const char* name) { return instance.getProperty(name); },
-                {lines().instanceKeyMissing, lines().instanceKeyNull, lines().instanceNoInstance});
+    return find(
+        [](const void* source, const char* name) {
+          return static_cast<const CIMInstance*>(source)->getProperty(name);
+        },
+        &instance,
+        {lines().instanceKeyMissing, lines().instanceKeyNull, lines().instanceNoInstance});
   }
 
   // Creates the object named by the new instance's keys (absent or null keys are empty).
   // A class whose objects are not named by their keys at creation overrides this.
   virtual W* createFrom(const CIMInstance& newInstance) const {
     std::array<std::string, W::kKeyCount> keys;
-    std::size_t index = 0;
-    for (const Property<W>& row : Traits::properties()) {
-      if (row.role != Role::Key) continue;
-      keys.at(index++) = keyText(row, newInstance.getPropertyValue(row.name)).value_or("");
-    }
+    const std::vector<std::string> texts = creationKeys(ops(), newInstance);
+    for (std::size_t index = 0; index < texts.size(); ++index) keys.at(index) = texts[index];
     try {
       return std::apply(
           [](const auto&... key) { return (W::getInstanceManager()->*Traits::kCreate)(key...); },
@@ -209,27 +180,44 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
   }
 
  private:
-  struct LookupLines {
-    int missing;
-    int null;
-    int noInstance;
-  };
-
   static constexpr const ProviderLines& lines() { return Traits::kLines; }
   static ErrorSite at(int line) { return {Traits::kSource, line}; }
 
+  // The class's rows and typed accessors for the shared provider code (ProviderCore).
+  static const ClassOps& ops() {
+    static const ClassOps classOps = {{Traits::kClass, Traits::kSource, Traits::kLines},
+                                      &rowCount,
+                                      &rowAt,
+                                      &readRow,
+                                      &writeRow,
+                                      &acceptRow};
+    return classOps;
+  }
+  static std::size_t rowCount() { return Traits::properties().size(); }
+  static RowInfo rowAt(std::size_t i) {
+    const Property<W>& row = Traits::properties()[i];
+    return {row.name, row.role, row.type};
+  }
+  static int readRow(std::size_t i, const ManagedObject& object, const String& ns,
+                     Qualifiers& qualifiers, OpenWBEM::CIMValue& out) {
+    return readValue(Traits::properties()[i], static_cast<const W&>(object), ns, qualifiers, out);
+  }
+  static int writeRow(std::size_t i, ManagedObject& object, const OpenWBEM::CIMValue& value) {
+    const Property<W>& row = Traits::properties()[i];
+    return writeValue(row, static_cast<W&>(object), value, [&](const auto& typed) {
+      checkLimits(ops().site, row.name, row.limits, typed);
+    });
+  }
+  static int acceptRow(std::size_t i, const OpenWBEM::CIMValue& value) {
+    const Property<W>& row = Traits::properties()[i];
+    return acceptValue(row, value, [&](const auto& typed) {
+      checkLimits(ops().site, row.name, row.limits, typed);
+    });
+  }
+
   // Concatenates the key values in key order and asks the current manager for the object.
-  template <class KeySource>
-  W* find(KeySource keyProperty, LookupLines where) const {
-    std::string key;
-    for (const Property<W>& row : Traits::properties()) {
-      if (row.role != Role::Key) continue;
-      const OpenWBEM::CIMProperty property = keyProperty(row.name);
-      if (!property) throwWithoutMessage(at(where.missing), OpenWBEM::CIMException::NOT_FOUND);
-      const std::optional<std::string> text = keyText(row, property.getValue());
-      if (!text) throwWithoutMessage(at(where.null), OpenWBEM::CIMException::NOT_FOUND);
-      key += *text;
-    }
+  W* find(KeySource keyOf, const void* source, LookupLines where) const {
+    const std::string key = lookupKey(ops(), where, keyOf, source);
     try {
       return W::getInstanceManager()->get(key);
     } catch (const CFG_NoInstance&) {
@@ -246,72 +234,6 @@ class InstanceProvider : public virtual OpenWBEM::CppInstanceProviderIFC,
       return false;
     } catch (const CFG_Exception&) {
       return false;
-    }
-  }
-
-  static const Property<W>* writableRow(const String& name) {
-    for (const Property<W>& row : Traits::properties()) {
-      if (row.role == Role::Writable && name.equals(row.name)) return &row;
-    }
-    return nullptr;
-  }
-
-  void applyIfWritable(W& object, const OpenWBEM::CIMProperty& property) const {
-    const Property<W>* row = writableRow(property.getName());
-    const OpenWBEM::CIMValue value = property.getValue();
-    if (row != nullptr && value) apply(object, *row, value);
-  }
-
-  // The checks of the change sequence, run over a new instance before its object exists: a
-  // value the sequence would refuse is refused with the same error, before anything runs.
-  void refuseUnacceptable(const CIMInstance& instance) const {
-    const OpenWBEM::CIMPropertyArray properties = instance.getProperties();
-    for (const OpenWBEM::CIMProperty& property : properties) {
-      const Property<W>* row = writableRow(property.getName());
-      const OpenWBEM::CIMValue value = property.getValue();
-      if (row == nullptr || !value) continue;
-      raise(hasRowType(*row, value)
-                ? acceptValue(*row, value, [&](const auto& typed) { check(*row, typed); })
-                : kStatusInvalidValue);
-    }
-  }
-
-  void apply(W& object, const Property<W>& row, const OpenWBEM::CIMValue& value) const {
-    raise(hasRowType(row, value)
-              ? writeValue(row, object, value, [&](const auto& typed) { check(row, typed); })
-              : kStatusInvalidValue);
-  }
-
-  // The error of a setter status other than success.
-  void raise(int status) const {
-    if (status == kStatusInvalidValue) {
-      throwProviderError(at(lines().invalidValue), OpenWBEM::CIMException::INVALID_PARAMETER,
-                         invalidValueMessage(Traits::kClass));
-    }
-    if (status != kStatusOk) {
-      throwProviderError(at(lines().setterFailed), OpenWBEM::CIMException::FAILED,
-                         statusMessage(status));
-    }
-  }
-
-  template <class T>
-  void check(const Property<W>& row, const T& value) const {
-    const Limits& limits = row.limits;
-    const auto code = OpenWBEM::CIMException::INVALID_PARAMETER;
-    if constexpr (std::is_same_v<T, std::string>) {
-      if (limits.maximumLength && utf8Length(value) > *limits.maximumLength) {
-        throwProviderError(at(lines().tooLong), code,
-                           tooLongMessage(Traits::kClass, row.name, *limits.maximumLength));
-      }
-    } else if constexpr (!std::is_same_v<T, bool>) {
-      if (limits.maximum && value > *limits.maximum) {
-        throwProviderError(at(lines().aboveMaximum), code,
-                           aboveMaximumMessage(Traits::kClass, row.name, *limits.maximum));
-      }
-      if (limits.minimum && value < *limits.minimum) {
-        throwProviderError(at(lines().belowMinimum), code,
-                           belowMinimumMessage(Traits::kClass, row.name, *limits.minimum));
-      }
     }
   }
 };

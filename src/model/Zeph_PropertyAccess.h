@@ -11,6 +11,7 @@
 #include "OW_CIMValue.hpp"
 #include "Zeph_CimValues.h"
 #include "Zeph_Property.h"
+#include "Zeph_ProviderCore.h"
 
 namespace ras {
 
@@ -74,22 +75,7 @@ int acceptValue(const Property<W>& row, const OpenWBEM::CIMValue& value, Check c
 // to the class's type, anything else reaching a setter is a malformed request.
 template <class W>
 bool hasRowType(const Property<W>& row, const OpenWBEM::CIMValue& value) {
-  if (value.isArray()) return false;
-  switch (row.type) {
-    case CimType::String:
-      return value.getType() == OpenWBEM::CIMDataType::STRING;
-    case CimType::UInt16:
-      return value.getType() == OpenWBEM::CIMDataType::UINT16;
-    case CimType::UInt8:
-      return value.getType() == OpenWBEM::CIMDataType::UINT8;
-    case CimType::Boolean:
-      return value.getType() == OpenWBEM::CIMDataType::BOOLEAN;
-    case CimType::DateTime:
-      return value.getType() == OpenWBEM::CIMDataType::DATETIME;
-    case CimType::Reference:
-      return value.getType() == OpenWBEM::CIMDataType::REFERENCE;
-  }
-  return false;
+  return hasCimType(row.type, value);
 }
 
 // The text of a key value; nothing if the value (or a referenced InstanceID) is null.

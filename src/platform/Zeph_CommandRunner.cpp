@@ -2,6 +2,7 @@
 // meaning, and runs the lines with system().
 #include "Zeph_CommandRunner.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <cstring>
 
@@ -149,12 +150,27 @@ ShellCommand::ShellCommand(const char* format, std::initializer_list<CommandArg>
   }
 }
 
+namespace {
+std::atomic<unsigned long> epoch{0};
+}  // namespace
+
+unsigned long fileEpoch() {
+  return epoch.load();
+}
+
+void newFileEpoch() {
+  ++epoch;
+}
+
 int ShellCommand::run() const {
   if (!valid_) {
     platformLogError(kCommandRefusedLog);
     return -1;
   }
-  return std::system(text_.c_str());
+  newFileEpoch();
+  const int result = std::system(text_.c_str());
+  newFileEpoch();
+  return result;
 }
 
 bool CommandSequence::valid() const {

@@ -80,6 +80,13 @@ class CommandSequence {
   std::vector<ShellCommand> commands_;
 };
 
+// A count that moves whenever the appliance's files may have changed under the module: at
+// every command line it runs (any thread) and at the start of every request (anything else
+// may edit them between requests). A reader that keeps what it parsed of a file keeps it only
+// while the count stays the same.
+unsigned long fileEpoch();
+void newFileEpoch();
+
 // Builds and runs a command in one step; the result is system()'s, or -1 when refused.
 int runCommand(const char* format, std::initializer_list<CommandArg> args);
 

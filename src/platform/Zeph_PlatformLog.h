@@ -19,12 +19,17 @@ extern OpenWBEM::IntrusiveReference<OpenWBEM::Logger> logger;
 
 namespace ras {
 
+// The logger drops a message below its level: the message is not even copied then.
 inline void platformLogDebug(const std::string& message) {
-  if (logger) logger->logDebug(OpenWBEM::String(message.c_str()));
+  if (logger && logger->getLogLevel() >= OpenWBEM::E_DEBUG_LEVEL) {
+    logger->logDebug(OpenWBEM::String(message.c_str()));
+  }
 }
 
 inline void platformLogError(const std::string& message) {
-  if (logger) logger->logError(OpenWBEM::String(message.c_str()));
+  if (logger && logger->getLogLevel() >= OpenWBEM::E_ERROR_LEVEL) {
+    logger->logError(OpenWBEM::String(message.c_str()));
+  }
 }
 
 }  // namespace ras

@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <thread>
 
+#include "Zeph_CommandRunner.h"
+
 namespace ras {
 namespace {
 
@@ -34,6 +36,8 @@ CurrentCIMOMHandle::operator bool() const {
 RequestScope::RequestScope(const OpenWBEM::ProviderEnvironmentIFCRef& env)
     : lock_(requestLock), handle_(env->getCIMOMHandle()), previous_(currentHandle) {
   currentHandle = handle_.getPtr();
+  // What the module read of the appliance's files before this request may be stale now.
+  newFileEpoch();
 }
 
 RequestScope::~RequestScope() {

@@ -15,6 +15,9 @@ CIMOM_NS=root/cimv2
 # 5-second stall the simple authentication module shows on about one request in 47.
 CIMOM_AUTH=${CIMOM_AUTH:-simple}
 
+# CIMOM_PROVIDER_DIR: the C++ provider directory (default: one under $CIMOM_DIR holding a link
+# to RAS_MODULE); one given from outside is used as it is. A caller may also define
+# cimom_load_schema itself after sourcing this file.
 # CIMOM_PRELOAD: libraries to preload into the CIMOM (a platform library that stays loaded
 # when the module is unloaded). CIMOM_PROV_TTL: idle minutes before a provider is unloaded
 # (-1: never). CIMOM_EXTRA_PROVIDERS: more provider libraries for the provider directory.
@@ -54,7 +57,7 @@ owcimomd.wql_lib = $lib/libowwql.so
 owcimomd.libexecdir = $OW_PREFIX/libexec/openwbem
 owcimomd.drop_root_privileges = false
 owcimomd.disable_indications = true
-cppprovifc.prov_location = $CIMOM_DIR/providers
+cppprovifc.prov_location = ${CIMOM_PROVIDER_DIR:-$CIMOM_DIR/providers}
 cppprovifc.prov_TTL = ${CIMOM_PROV_TTL:--1}
 log.main.type = file
 log.main.location = $CIMOM_DIR/owcimomd.log
@@ -86,11 +89,14 @@ cimom_load_schema() {
 # that it holds the current schema and accounts.
 cimom_start() {
   rm -rf "$CIMOM_DIR/repository"
-  mkdir -p "$CIMOM_DIR/providers" "$CIMOM_DIR/repository"
-  ln -sf "$RAS_MODULE" "$CIMOM_DIR/providers/libZeph_RASProvider.so"
-  for provider in ${CIMOM_EXTRA_PROVIDERS:-}; do
-    ln -sf "$provider" "$CIMOM_DIR/providers/"
-  done
+  mkdir -p "$CIMOM_DIR/repository"
+  if [ -z "${CIMOM_PROVIDER_DIR:-}" ]; then
+    mkdir -p "$CIMOM_DIR/providers"
+    ln -sf "$RAS_MODULE" "$CIMOM_DIR/providers/libZeph_RASProvider.so"
+    for provider in ${CIMOM_EXTRA_PROVIDERS:-}; do
+      ln -sf "$provider" "$CIMOM_DIR/providers/"
+    done
+  fi
   cimom_write_config
   cimom_load_schema || { cat "$CIMOM_DIR/owmofc.log" >&2; return 1; }
   cimom_env "$OW_PREFIX/sbin/owcimomd" -d -c "$CIMOM_DIR/openwbem.conf" \
