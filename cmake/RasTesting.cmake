@@ -10,6 +10,10 @@ cmake_path(NORMAL_PATH RAS_APPLIANCE_RUN)
 if(OPENWBEM_PREFIX)
   set(RAS_APPLIANCE_RUN "${RAS_APPLIANCE_RUN};--host-ro;${OPENWBEM_PREFIX}")
 endif()
+# A coverage build's programs write their counts beside their objects.
+if(RAS_COVERAGE)
+  set(RAS_APPLIANCE_RUN "${RAS_APPLIANCE_RUN};--host-rw;${CMAKE_BINARY_DIR}")
+endif()
 # The project is visible inside; a build tree elsewhere must be made visible too.
 cmake_path(IS_PREFIX CMAKE_SOURCE_DIR "${CMAKE_BINARY_DIR}" NORMALIZE _ras_build_inside)
 if(NOT _ras_build_inside)
