@@ -166,22 +166,13 @@ std::vector<std::string> creationKeys(const ClassOps& ops, const OpenWBEM::CIMIn
   return keys;
 }
 
-void runChange(const ClassOps& ops, ManagedObject& object, const OpenWBEM::CIMInstance& instance) {
-  checkChangeStarted(ops.site, object.startChange());
-  const OpenWBEM::CIMPropertyArray properties = instance.getProperties();
-  for (const OpenWBEM::CIMProperty& property : properties) {
-    std::size_t index = 0;
-    RowInfo row{};
-    const bool writable = writableRow(ops, property.getName(), row, index);
-    const OpenWBEM::CIMValue value = property.getValue();
-    if (!writable || !value) continue;
-    raiseSetterStatus(ops.site, hasCimType(row.type, value) ? ops.write(index, object, value)
-                                                            : kStatusInvalidValue);
-  }
-  checkChangeEnded(ops.site, object.endChange());
-}
+namespace {
 
-void refuseUnacceptable(const ClassOps& ops, const OpenWBEM::CIMInstance& instance) {
+// Gives each non-null property of `instance` that the class writes to `apply(index, value)`,
+// in the instance's order, and raises the status it returns; a value of another CIM type is
+// an invalid value.
+template <class Apply>
+void applyWritable(const ClassOps& ops, const OpenWBEM::CIMInstance& instance, Apply apply) {
   const OpenWBEM::CIMPropertyArray properties = instance.getProperties();
   for (const OpenWBEM::CIMProperty& property : properties) {
     std::size_t index = 0;
@@ -190,8 +181,24 @@ void refuseUnacceptable(const ClassOps& ops, const OpenWBEM::CIMInstance& instan
     const OpenWBEM::CIMValue value = property.getValue();
     if (!writable || !value) continue;
     raiseSetterStatus(ops.site,
-                      hasCimType(row.type, value) ? ops.accept(index, value) : kStatusInvalidValue);
+                      hasCimType(row.type, value) ? apply(index, value) : kStatusInvalidValue);
   }
+}
+
+}  // namespace
+
+void runChange(const ClassOps& ops, ManagedObject& object, const OpenWBEM::CIMInstance& instance) {
+  checkChangeStarted(ops.site, object.startChange());
+  applyWritable(ops, instance, [&](std::size_t index, const OpenWBEM::CIMValue& value) {
+    return ops.write(index, object, value);
+  });
+  checkChangeEnded(ops.site, object.endChange());
+}
+
+void refuseUnacceptable(const ClassOps& ops, const OpenWBEM::CIMInstance& instance) {
+  applyWritable(ops, instance, [&](std::size_t index, const OpenWBEM::CIMValue& value) {
+    return ops.accept(index, value);
+  });
 }
 
 }  // namespace ras
