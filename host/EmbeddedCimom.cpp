@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "MofCompile.hpp"
+#include "MofFiles.hpp"
 #include "OW_EmbeddedCIMOMEnvironment.hpp"
 #include "OW_RepositoryIFC.hpp"
 #include "Options.hpp"
@@ -27,7 +28,6 @@ namespace {
 
 const char kOpenWbemPrefix[] = RAS_CIM_OPENWBEM_PREFIX;  // set by host/CMakeLists.txt
 const char kModuleLink[] = "providers/libZeph_RASProvider.so";
-const char kQualifiersMof[] = "qualifiers.mof";
 const char kAccountClass[] = "Zeph_Account";
 const char kConfigNotice[] = "Using config file:";
 
@@ -62,19 +62,6 @@ class QuietStart {
   std::string errFile_;
   int out_, err_;
 };
-
-// The MOF files to compile: qualifier declarations first, then the rest in name order.
-std::vector<fs::path> mofFiles(const fs::path& path) {
-  if (!fs::is_directory(path)) return {path};
-  std::vector<fs::path> files;
-  for (const fs::directory_entry& e : fs::directory_iterator(path))
-    if (e.path().extension() == ".mof") files.push_back(e.path());
-  std::sort(files.begin(), files.end(), [](const fs::path& a, const fs::path& b) {
-    return std::make_pair(a.filename() != kQualifiersMof, a) <
-           std::make_pair(b.filename() != kQualifiersMof, b);
-  });
-  return files;
-}
 
 std::string mofString(const std::string& text) {
   std::string out = "\"";

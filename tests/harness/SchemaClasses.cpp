@@ -8,6 +8,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "MofFiles.hpp"
 #include "OW_CIMInstance.hpp"
 #include "OW_CIMQualifierType.hpp"
 #include "SchemaClasses.h"
@@ -17,19 +18,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const char kQualifiersMof[] = "qualifiers.mof";
 const char kModuleMof[] = "Zeph_RAS.mof";
 
 std::string schemaText() {
-  std::vector<fs::path> files;
-  for (const fs::directory_entry& e : fs::directory_iterator(RAS_MOF_DIR))
-    if (e.path().extension() == ".mof") files.push_back(e.path());
-  std::sort(files.begin(), files.end(), [](const fs::path& a, const fs::path& b) {
-    return std::make_pair(a.filename() != kQualifiersMof, a) <
-           std::make_pair(b.filename() != kQualifiersMof, b);
-  });
   std::string text;
-  for (const fs::path& file : files) {
+  for (const fs::path& file : rascim::mofFiles(RAS_MOF_DIR)) {
     std::ifstream in(file);
     std::ostringstream content;
     content << in.rdbuf();
