@@ -1,7 +1,7 @@
 #!/bin/sh
 # gi-cost.sh: where the time of a management request goes. For one instance of each class,
 # REQUESTS requests of "wbemcli gi" against a private OpenWBEM CIMOM with the module
-# loaded (tests/integration/cimom.sh), inside the simulated appliance; per request: the wall
+# loaded (scripts/cimom.sh), inside the simulated appliance; per request: the wall
 # time, the CPU of wbemcli, of the CIMOM process (the module's work included) and of the
 # commands it spawned, and the module's own CPU for the same get through its dispatcher
 # (module_bench, same build) with its share of the wall time.
@@ -10,8 +10,8 @@
 # MODULE_BENCH, the module_bench of the same build. Run by scripts/bench.
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
-# shellcheck source=tests/integration/cimom.sh
-. "$here/../../tests/integration/cimom.sh"
+# shellcheck source=scripts/cimom.sh
+. "$here/../../scripts/cimom.sh"
 REQUESTS=${REQUESTS:-20}
 
 SYSTEM='SystemCreationClassName="Zeph_System",SystemName="Zeph"'

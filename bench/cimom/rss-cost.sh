@@ -1,5 +1,5 @@
 #!/bin/sh
-# rss-cost.sh: the resident memory a private OpenWBEM CIMOM (tests/integration/cimom.sh)
+# rss-cost.sh: the resident memory a private OpenWBEM CIMOM (scripts/cimom.sh)
 # gains by serving the module. Two runs inside the simulated appliance, same schema and
 # accounts in the repository: one with an empty provider directory, one with the module;
 # each answers "wbemcli ein" and a "gi" of the first instance of every class of
@@ -9,8 +9,8 @@
 # Needs what cimom.sh needs (OW_PREFIX, RAS_MODULE, RAS_MOF_DIR, RAS_PLATFORM_LIBDIR).
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
-# shellcheck source=tests/integration/cimom.sh
-. "$here/../../tests/integration/cimom.sh"
+# shellcheck source=scripts/cimom.sh
+. "$here/../../scripts/cimom.sh"
 # shellcheck disable=SC2034 # read by cimom.sh
 CIMOM_AUTH=none
 

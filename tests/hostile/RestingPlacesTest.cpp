@@ -179,25 +179,30 @@ TEST_F(RestingPlaces, NoValueBecomesCodeWordsOrLinesWhereItRests) {
   }
 }
 
-// A payload after a mask that inet_aton takes is refused on create and on modify, nothing
-// run; a trailing blank is inert in the route file and in the sed edit, and is written.
-TEST_F(RestingPlaces, RouteMaskPayloadsAreRefusedAndABlankIsWritten) {
-  const std::string routes = appliance::readFile(kRouteFile);
-  for (const char* mask : {"255.255.0.0 $(touch /tmp/pwned)", "255.255.0.0 `touch /tmp/pwned`",
-                           "255.255.0.0 \";touch /tmp/pwned;\"", "255.255.0.0\ntouch"}) {
-    for (const Slot& slot : {kSlots[0], kSlots[1]}) {
-      EXPECT_EQ(request(slot, mask).code, OpenWBEM::CIMException::FAILED) << mask;
-      EXPECT_THAT(appliance::journal(), testing::IsEmpty()) << mask;
-      EXPECT_EQ(appliance::readFile(kRouteFile), routes) << mask;
-    }
+// Values the module reads itself into command lines: an account name from the CIMOM and a
+// dial-in interface from the marker file. None of them runs and no file changes.
+TEST_F(RestingPlaces, ValuesFromTheCimomAndFilesNeverRun) {
+  for (const std::string& payload : kPayloads) {
+    // One file word that a shell would act on.
+    if (payload.find('\n') != std::string::npos ||
+        payload.find_first_of("$`\"';\\&") == std::string::npos)
+      continue;
+    appliance::reset();
+    appliance::addAccount("900", payload);
+    appliance::grantPrivilege(900);
+    ASSERT_TRUE(get().getProperty("DialOutUserName").getQualifier("Values")) << payload;
+    const auto before = editedFiles();
+    EXPECT_EQ(modify({{"DialOutUserName", text("2")}}).code,
+              OpenWBEM::CIMException::INVALID_PARAMETER)
+        << payload;
+    EXPECT_EQ(editedFiles(), before) << payload;
+
+    appliance::writeFile("/qv/etc/ppp/ppp_active_if_file", "DIN\nppp" + payload + "\n");
+    appliance::clearJournal();
+    EXPECT_EQ(modify(kService, {{"modemStatus", client::flag(false)}}), CimFailure{});
+    EXPECT_FALSE(appliance::fileExists(kMarker)) << payload;
+    EXPECT_THAT(appliance::journal(), testing::Contains(testing::HasSubstr("ppp_hup_v2k")));
   }
-  EXPECT_EQ(request(kSlots[1], "255.255.255.0 "), CimFailure{});
-  EXPECT_THAT(appliance::journal(),
-              testing::Contains("/bin/sed  -i 's/^\tNETMASK\\[0\\]=\\\"255.255.0.0\\\"/"
-                                "\\tNETMASK\\[0\\]=\\\"255.255.255.0 \\\"/'   /qv/etc/ppp/"
-                                "ip_up_add_v2k"));
-  EXPECT_THAT(appliance::readLines(kRouteFile),
-              testing::Contains("\tNETMASK[0]=\"255.255.255.0 \" \\"));
 }
 
 }  // namespace

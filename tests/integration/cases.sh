@@ -5,8 +5,8 @@
 # Run by run.sh, which starts the sandbox.
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
-# shellcheck source=tests/integration/cimom.sh
-. "$here/cimom.sh"
+# shellcheck source=scripts/cimom.sh
+. "$here/../../scripts/cimom.sh"
 # shellcheck source=tests/integration/load.sh
 . "$here/load.sh"
 # shellcheck source=tests/integration/checks.sh

@@ -8,8 +8,8 @@
 # libraries) as cimom.sh does; prints "ok"/"not ok" lines and a count.
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
-# shellcheck source=tests/integration/cimom.sh
-. "$here/cimom.sh"
+# shellcheck source=scripts/cimom.sh
+. "$here/../../scripts/cimom.sh"
 # shellcheck source=tests/integration/checks.sh
 . "$here/checks.sh"
 

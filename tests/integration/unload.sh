@@ -11,8 +11,8 @@ CIMOM_EXTRA_PROVIDERS=$OW_PREFIX/lib/openwbem/c++providers/libowprovpollUnloader
 # Preloaded, the platform library (and its notification thread) outlives the module, as a
 # system library used by other parts of the CIMOM would.
 CIMOM_PRELOAD=$RAS_PLATFORM_LIBDIR/libQvlShared.so
-# shellcheck source=tests/integration/cimom.sh
-. "$here/cimom.sh"
+# shellcheck source=scripts/cimom.sh
+. "$here/../../scripts/cimom.sh"
 # shellcheck source=tests/integration/checks.sh
 . "$here/checks.sh"
 

@@ -1,10 +1,11 @@
 # cimom.sh: a private OpenWBEM CIMOM inside the simulated appliance, with the module and the
-# project's schema loaded, and the wbemcli calls that reach it. Sourced by the integration
-# cases; everything lives under $CIMOM_DIR (in the appliance's /tmp).
+# project's schema loaded, and the wbemcli calls that reach it. Sourced by scripts/serve, the
+# integration stage and the CIMOM benchmarks; everything lives under $CIMOM_DIR (in the
+# appliance's /tmp).
 #
 # Needs: OW_PREFIX (the OpenWBEM installation), RAS_MODULE (libZeph_RASProvider.so built
 # against it), RAS_MOF_DIR (the project's mof/), RAS_PLATFORM_LIBDIR (where libQvlShared.so
-# and libTORapi.so are). Also used by scripts/serve, which runs the same CIMOM for clients.
+# and libTORapi.so are).
 
 CIMOM_DIR=${CIMOM_DIR:-/tmp/cimom}
 CIMOM_PORT=${CIMOM_PORT:-5988}
