@@ -4,17 +4,24 @@
 #ifndef RAS_TESTS_REFUSINGHANDLE_HPP
 #define RAS_TESTS_REFUSINGHANDLE_HPP
 
+#include "OW_Array.hpp"
+#include "OW_CIMClass.hpp"
+#include "OW_CIMException.hpp"
+#include "OW_CIMInstance.hpp"
 #include "OW_CIMOMHandleIFC.hpp"
+#include "OW_CIMObjectPath.hpp"
+#include "OW_CIMQualifierType.hpp"
+#include "OW_CIMValue.hpp"
 
 namespace harness {
 
 class RefusingHandle : public OpenWBEM::CIMOMHandleIFC {
  public:
-  // `message` may be null: the refusal then carries no description.
   RefusingHandle(const char* file, int line, const char* message)
       : file_(file), line_(line), message_(message) {}
 
   using String = OpenWBEM::String;
+  using S = const String&;
   using Deep = OpenWBEM::WBEMFlags::EDeepFlag;
   using LocalOnly = OpenWBEM::WBEMFlags::ELocalOnlyFlag;
   using Qualifiers = OpenWBEM::WBEMFlags::EIncludeQualifiersFlag;
@@ -24,51 +31,62 @@ class RefusingHandle : public OpenWBEM::CIMOMHandleIFC {
   using Names = OpenWBEM::CIMObjectPathResultHandlerIFC;
   using Instances = OpenWBEM::CIMInstanceResultHandlerIFC;
   using Classes = OpenWBEM::CIMClassResultHandlerIFC;
+  using Params = OpenWBEM::CIMParamValueArray;
 
   void close() override {}
-  void enumClass(const String&, const String&, Classes&, Deep, LocalOnly, Qualifiers,
-                 ClassOrigin) override;
-  void enumClassNames(const String&, const String&, OpenWBEM::StringResultHandlerIFC&,
-                      Deep) override;
-  void enumInstances(const String&, const String&, Instances&, Deep, LocalOnly, Qualifiers,
-                     ClassOrigin, PropertyList) override;
-  void enumInstanceNames(const String&, const String&, Names&) override;
-  OpenWBEM::CIMClass getClass(const String&, const String&, LocalOnly, Qualifiers, ClassOrigin,
-                              PropertyList) override;
-  OpenWBEM::CIMInstance getInstance(const String&, const Path&, LocalOnly, Qualifiers, ClassOrigin,
-                                    PropertyList) override;
-  OpenWBEM::CIMValue invokeMethod(const String&, const Path&, const String&,
-                                  const OpenWBEM::CIMParamValueArray&,
-                                  OpenWBEM::CIMParamValueArray&) override;
-  OpenWBEM::CIMQualifierType getQualifierType(const String&, const String&) override;
-  void setQualifierType(const String&, const OpenWBEM::CIMQualifierType&) override;
-  void deleteQualifierType(const String&, const String&) override;
-  void enumQualifierTypes(const String&, OpenWBEM::CIMQualifierTypeResultHandlerIFC&) override;
-  void modifyClass(const String&, const OpenWBEM::CIMClass&) override;
-  void createClass(const String&, const OpenWBEM::CIMClass&) override;
-  void deleteClass(const String&, const String&) override;
-  void modifyInstance(const String&, const OpenWBEM::CIMInstance&, Qualifiers,
-                      PropertyList) override;
-  Path createInstance(const String&, const OpenWBEM::CIMInstance&) override;
-  void deleteInstance(const String&, const Path&) override;
-  void setProperty(const String&, const Path&, const String&, const OpenWBEM::CIMValue&) override;
-  OpenWBEM::CIMValue getProperty(const String&, const Path&, const String&) override;
-  void associatorNames(const String&, const Path&, Names&, const String&, const String&,
-                       const String&, const String&) override;
-  void associators(const String&, const Path&, Instances&, const String&, const String&,
-                   const String&, const String&, Qualifiers, ClassOrigin, PropertyList) override;
-  void associatorsClasses(const String&, const Path&, Classes&, const String&, const String&,
-                          const String&, const String&, Qualifiers, ClassOrigin,
-                          PropertyList) override;
-  void referenceNames(const String&, const Path&, Names&, const String&, const String&) override;
-  void references(const String&, const Path&, Instances&, const String&, const String&, Qualifiers,
-                  ClassOrigin, PropertyList) override;
-  void referencesClasses(const String&, const Path&, Classes&, const String&, const String&,
-                         Qualifiers, ClassOrigin, PropertyList) override;
-  void execQuery(const String&, Instances&, const String&, const String&) override;
+  void enumClass(S, S, Classes&, Deep, LocalOnly, Qualifiers, ClassOrigin) override { refuse(); }
+  void enumClassNames(S, S, OpenWBEM::StringResultHandlerIFC&, Deep) override { refuse(); }
+  void enumInstances(S, S, Instances&, Deep, LocalOnly, Qualifiers, ClassOrigin,
+                     PropertyList) override {
+    refuse();
+  }
+  void enumInstanceNames(S, S, Names&) override { refuse(); }
+  OpenWBEM::CIMClass getClass(S, S, LocalOnly, Qualifiers, ClassOrigin, PropertyList) override {
+    refuse();
+  }
+  OpenWBEM::CIMInstance getInstance(S, const Path&, LocalOnly, Qualifiers, ClassOrigin,
+                                    PropertyList) override {
+    refuse();
+  }
+  OpenWBEM::CIMValue invokeMethod(S, const Path&, S, const Params&, Params&) override { refuse(); }
+  OpenWBEM::CIMQualifierType getQualifierType(S, S) override { refuse(); }
+  void setQualifierType(S, const OpenWBEM::CIMQualifierType&) override { refuse(); }
+  void deleteQualifierType(S, S) override { refuse(); }
+  void enumQualifierTypes(S, OpenWBEM::CIMQualifierTypeResultHandlerIFC&) override { refuse(); }
+  void modifyClass(S, const OpenWBEM::CIMClass&) override { refuse(); }
+  void createClass(S, const OpenWBEM::CIMClass&) override { refuse(); }
+  void deleteClass(S, S) override { refuse(); }
+  void modifyInstance(S, const OpenWBEM::CIMInstance&, Qualifiers, PropertyList) override {
+    refuse();
+  }
+  Path createInstance(S, const OpenWBEM::CIMInstance&) override { refuse(); }
+  void deleteInstance(S, const Path&) override { refuse(); }
+  void setProperty(S, const Path&, S, const OpenWBEM::CIMValue&) override { refuse(); }
+  OpenWBEM::CIMValue getProperty(S, const Path&, S) override { refuse(); }
+  void associatorNames(S, const Path&, Names&, S, S, S, S) override { refuse(); }
+  void associators(S, const Path&, Instances&, S, S, S, S, Qualifiers, ClassOrigin,
+                   PropertyList) override {
+    refuse();
+  }
+  void associatorsClasses(S, const Path&, Classes&, S, S, S, S, Qualifiers, ClassOrigin,
+                          PropertyList) override {
+    refuse();
+  }
+  void referenceNames(S, const Path&, Names&, S, S) override { refuse(); }
+  void references(S, const Path&, Instances&, S, S, Qualifiers, ClassOrigin,
+                  PropertyList) override {
+    refuse();
+  }
+  void referencesClasses(S, const Path&, Classes&, S, S, Qualifiers, ClassOrigin,
+                         PropertyList) override {
+    refuse();
+  }
+  void execQuery(S, Instances&, S, S) override { refuse(); }
 
  protected:
-  [[noreturn]] void refuse() const;
+  [[noreturn]] void refuse() const {
+    throw OpenWBEM::CIMException(file_, line_, OpenWBEM::CIMException::NOT_SUPPORTED, message_);
+  }
 
  private:
   const char* file_;
