@@ -4,11 +4,12 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 
 #include "ApplianceTest.h"
+#include "LogRecorder.h"
 #include "QvlStandIn.h"
-#include "TestSupport.h"
 #include "Zeph_PlatformAccess.h"
 
 using ::testing::ElementsAre;
@@ -198,8 +199,8 @@ TEST_F(DialServiceTest, OutsideModemStatusChangeRunsTheCallbackOnThePlatformThre
   qvlreg("disabled");
   EXPECT_THAT(appliance::journal(), ElementsAreArray(kDisableWithDialIn));
   EXPECT_EQ(gateLine(kDialIn), kClosed);
-  EXPECT_NE(log_.threadOf(kCallback), std::thread::id());
-  EXPECT_NE(log_.threadOf(kCallback), std::this_thread::get_id());
+  EXPECT_NE(log_.threadOf("Calling Callback Function"), std::thread::id());
+  EXPECT_NE(log_.threadOf("Calling Callback Function"), std::this_thread::get_id());
 
   appliance::clearJournal();
   qvlreg("ENABLED");
