@@ -118,6 +118,9 @@ TEST_F(DialServiceTest, MgettyRestartSparesADialInCall) {
                 {"no link", [] {}, {kKillMgetty, "init q"}},
                 {"dial-out call up", [] { dialOutUp(); }, {kKillMgetty, "init q"}}},
                RestartMgetty);
+  // The operator's log says why mgetty went away.
+  const Lines log = log_.newLines();
+  EXPECT_EQ(std::count(log.begin(), log.end(), "DEBUG|Killing Mgetty"), 2);
 }
 
 TEST_F(DialServiceTest, ModemStatusBringsBothDirectionsInLine) {
