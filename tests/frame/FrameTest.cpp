@@ -244,7 +244,7 @@ class DispatcherTest : public ::testing::Test {
 // Loaded and unloaded as a CIMOM does (at shutdown and on SIGHUP): the "ModemStatus"
 // subscription that initialize starts (a platform library thread) is replaced by a second
 // initialize and ends with the library, or that thread calls into unmapped code.
-TEST(ModuleLibrary, EntryPointsAndTheSubscriptionEndingAtUnload) {
+TEST(ModuleLibrary, UnloadingEndsTheModemStatusSubscription) {
   // The installed managers are never freed; the test is about the thread.
   if (__lsan_disable != nullptr) __lsan_disable();
   const std::size_t before = threadCount();
