@@ -1,9 +1,6 @@
-// Instance managers: key order, the single cursor, duplicate keys, concatenated keys of
-// four-key classes, and what the base and implementation managers do on create and destroy.
+// Instance managers: key order, the single cursor, duplicate keys, which managers create and
+// destroy, and the concatenated keys of four-key classes.
 #include <gtest/gtest.h>
-
-#include <memory>
-#include <vector>
 
 #include "CFG_Exception.h"
 #include "Zeph_CallInSettingData.h"
@@ -11,86 +8,61 @@
 
 namespace {
 
-class InstanceManagerTest : public ::testing::Test {
- protected:
-  void SetUp() override { Zeph_CallInSettingData::SetInstanceManager(&manager_); }
-  void TearDown() override { Zeph_CallInSettingData::ClearInstanceManager(); }
+using Names = std::vector<std::string>;
 
-  std::vector<std::string> iteratedKeys() {
-    std::vector<std::string> keys;
-    ras::Qualifiers scratch;
-    for (manager_.startIteration(); manager_.hasNext();) {
-      std::string key;
-      manager_.next()->getInstanceID(key, scratch);
-      keys.push_back(key);
-    }
-    return keys;
-  }
-
-  Zeph_CallInSettingDataInstanceManager manager_;
-};
-
-TEST_F(InstanceManagerTest, IteratesInByteOrderOfKeysAndSurvivesRemovalUnderTheCursor) {
+// Keys in byte order under a single cursor that survives removal of its entry; the last object
+// of a key wins and destroying either removes it; only the implementation manager creates and
+// destroys; four keys are concatenated.
+TEST(InstanceManager, KeysCursorDuplicatesAndCreation) {
+  Zeph_CallInSettingDataInstanceManager manager;
+  Zeph_CallInSettingData::SetInstanceManager(&manager);
   Zeph_CallInSettingData b("b"), a("a");
   auto upper = std::make_unique<Zeph_CallInSettingData>("B");
-  EXPECT_EQ(iteratedKeys(), (std::vector<std::string>{"B", "a", "b"}));
-  EXPECT_FALSE(manager_.hasNext());
-  EXPECT_THROW(manager_.next(), CFG_NoInstance);
-  manager_.startIteration();
-  manager_.endIteration();
-  EXPECT_FALSE(manager_.hasNext());
-  // Removing the entry under the cursor leaves the cursor on the next one.
-  manager_.startIteration();
-  upper.reset();
-  ASSERT_TRUE(manager_.hasNext());
-  EXPECT_EQ(manager_.next(), &a);
-  EXPECT_EQ(manager_.next(), &b);
-  EXPECT_FALSE(manager_.hasNext());
-}
-
-TEST_F(InstanceManagerTest, LookupFindsTheLastObjectOfAKeyAndThrowsForAbsentKeys) {
-  Zeph_CallInSettingData present("Velmar:Zeph_CallInSettingData");
-  EXPECT_EQ(manager_.get("Velmar:Zeph_CallInSettingData"), &present);
-  for (const char* key : {"", "Velmar:Zeph_CallInSettingDat", "velmar:zeph_callinsettingdata"}) {
-    EXPECT_THROW(manager_.get(key), CFG_NoInstance) << key;
+  Names keys;
+  ras::Qualifiers scratch;
+  for (manager.startIteration(); manager.hasNext();) {
+    manager.next()->getInstanceID(keys.emplace_back(), scratch);
   }
-  // A duplicate key replaces the entry; destroying either object removes it.
+  EXPECT_EQ(keys, (Names{"B", "a", "b"}));
+  EXPECT_THROW(manager.next(), CFG_NoInstance);
+  manager.startIteration();
+  manager.endIteration();
+  EXPECT_FALSE(manager.hasNext());
+  manager.startIteration();
+  upper.reset();
+  EXPECT_EQ(manager.next(), &a);
+  EXPECT_EQ(manager.next(), &b);
+  EXPECT_FALSE(manager.hasNext());
+  for (const char* absent : {"", "B", "A", "bb"}) EXPECT_THROW(manager.get(absent), CFG_NoInstance);
   for (bool destroyFirst : {true, false}) {
     auto first = std::make_unique<Zeph_CallInSettingData>("same");
     auto second = std::make_unique<Zeph_CallInSettingData>("same");
-    EXPECT_EQ(manager_.get("same"), second.get());
+    EXPECT_EQ(manager.get("same"), second.get());
     (destroyFirst ? first : second).reset();
-    EXPECT_THROW(manager_.get("same"), CFG_NoInstance) << "destroyFirst " << destroyFirst;
+    EXPECT_THROW(manager.get("same"), CFG_NoInstance) << destroyFirst;
   }
-}
-
-TEST_F(InstanceManagerTest, OnlyTheImplementationManagerCreatesAndDestroys) {
-  Zeph_CallInSettingData present("x");
-  EXPECT_THROW(manager_.createZeph_CallInSettingData("y"), CFG_InstanceCreationFailed);
-  EXPECT_THROW(manager_.destroyZeph_CallInSettingData(&present), CFG_InstanceDeletionFailed);
-  EXPECT_EQ(manager_.get("x"), &present);
-
+  EXPECT_THROW(manager.createZeph_CallInSettingData("y"), CFG_InstanceCreationFailed);
+  EXPECT_THROW(manager.destroyZeph_CallInSettingData(&a), CFG_InstanceDeletionFailed);
+  EXPECT_EQ(manager.get("a"), &a);
   ras::ImplInstanceManager<Zeph_CallInSettingDataInstanceManager, Zeph_CallInSettingData> impl;
-  EXPECT_EQ(Zeph_CallInSettingData::SetInstanceManager(&impl), ras::kStatusOk);
-  Zeph_CallInSettingData* created = impl.createZeph_CallInSettingData("new");
-  EXPECT_EQ(impl.get("new"), created);
-  impl.destroyZeph_CallInSettingData(created);
+  Zeph_CallInSettingData::SetInstanceManager(&impl);
+  impl.destroyZeph_CallInSettingData(impl.createZeph_CallInSettingData("new"));
   EXPECT_THROW(impl.get("new"), CFG_NoInstance);
   impl.destroyZeph_CallInSettingData(nullptr);
-  Zeph_CallInSettingData::SetInstanceManager(&manager_);
-}
+  Zeph_CallInSettingData::SetInstanceManager(&manager);
+  Zeph_CallInSettingData::ClearInstanceManager();
 
-TEST(ClassModel, ObjectsEnterTheCurrentManagerAndFourKeysAreConcatenated) {
-  Zeph_RASServiceInstanceManager manager;
-  Zeph_RASService::SetInstanceManager(&manager);
-  {
-    Zeph_RASService service("Zeph_System", "Zeph", "Zeph_RASService", "RASService");
-    EXPECT_EQ(manager.get("Zeph_SystemZephZeph_RASServiceRASService"), &service);
-    EXPECT_THROW(manager.get("RASService"), CFG_NoInstance);
+  ras::ImplInstanceManager<Zeph_RASServiceInstanceManager, Zeph_RASService> services;
+  Zeph_RASService::SetInstanceManager(&services);
+  for (int i = 0; i < 2; ++i) {  // a second create under the key frees the first object
+    Zeph_RASService* service =
+        services.createZeph_RASService("Zeph_System", "Zeph", "Zeph_RASService", "RASService");
+    EXPECT_EQ(services.get("Zeph_SystemZephZeph_RASServiceRASService"), service);
   }
-  EXPECT_THROW(manager.get("Zeph_SystemZephZeph_RASServiceRASService"), CFG_NoInstance);
+  services.destroyZeph_RASService(services.get("Zeph_SystemZephZeph_RASServiceRASService"));
+  EXPECT_THROW(services.get("Zeph_SystemZephZeph_RASServiceRASService"), CFG_NoInstance);
   Zeph_RASService::ClearInstanceManager();
-  EXPECT_NE(Zeph_RASService::getInstanceManager(), &manager);
+  EXPECT_NE(Zeph_RASService::getInstanceManager(), &services);
 }
 
 }  // namespace

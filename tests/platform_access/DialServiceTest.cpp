@@ -4,11 +4,12 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 
 #include "ApplianceTest.h"
+#include "LogRecorder.h"
 #include "QvlStandIn.h"
-#include "TestSupport.h"
 #include "Zeph_PlatformAccess.h"
 
 using ::testing::ElementsAre;
@@ -117,6 +118,9 @@ TEST_F(DialServiceTest, MgettyRestartSparesADialInCall) {
                 {"no link", [] {}, {kKillMgetty, "init q"}},
                 {"dial-out call up", [] { dialOutUp(); }, {kKillMgetty, "init q"}}},
                RestartMgetty);
+  // The operator's log says why mgetty went away.
+  const Lines log = log_.newLines();
+  EXPECT_EQ(std::count(log.begin(), log.end(), "DEBUG|Killing Mgetty"), 2);
 }
 
 TEST_F(DialServiceTest, ModemStatusBringsBothDirectionsInLine) {
@@ -198,8 +202,8 @@ TEST_F(DialServiceTest, OutsideModemStatusChangeRunsTheCallbackOnThePlatformThre
   qvlreg("disabled");
   EXPECT_THAT(appliance::journal(), ElementsAreArray(kDisableWithDialIn));
   EXPECT_EQ(gateLine(kDialIn), kClosed);
-  EXPECT_NE(log_.threadOf(kCallback), std::thread::id());
-  EXPECT_NE(log_.threadOf(kCallback), std::this_thread::get_id());
+  EXPECT_NE(log_.threadOf("Calling Callback Function"), std::thread::id());
+  EXPECT_NE(log_.threadOf("Calling Callback Function"), std::this_thread::get_id());
 
   appliance::clearJournal();
   qvlreg("ENABLED");
