@@ -1,0 +1,213 @@
+// The RAS service's modemStatus switch: what a get of each registry state shows and stops, the
+// order of a set's stops and its registry write, and the registry changes of other programs
+// that the service's subscription acts on until the service is deleted.
+#include "ScopedEnv.h"
+#include "SettingsTest.h"
+
+namespace {
+
+using namespace settings;
+
+const Target kService = client::systemElement("Zeph_RASService", "Name", "RASService");
+const char kDialIn[] = "/qv/etc/ppp/mgetty_v2k";
+const char kDialOut[] = "/qv/etc/ppp/ppp_add_v2k";
+const std::string kOpen = "#$IF_ENABLE_CMD", kClosed = "$IF_ENABLE_CMD";
+const Lines kBothOpen = {kOpen, kOpen}, kBothClosed = {kClosed, kClosed};
+
+std::string hangup(const std::string& iface) {
+  return "/qv/etc/ppp/ppp_hup_v2k " + iface;
+}
+std::string gate(const std::string& to, const char* script) {
+  return "/bin/sed -i 's/#\\?$IF_ENABLE_CMD/" + to + "/' " + script;
+}
+// A side resumed: its gate opened, its start script continued (an empty line ends the command).
+Lines resume(const char* script, const std::string& process) {
+  return {gate(kOpen, script), "/usr/bin/killall -s CONT " + process, ""};
+}
+const Lines kResumeOut = resume(kDialOut, "ppp_add_v2k");
+const Lines kResumeBoth = joined({resume(kDialIn, "mgetty_v2k"), kResumeOut});
+// What a disabling runs with no link up: dial-in stopped, then dial-out.
+const Lines kStops = joined(
+    {{gate(kClosed, kDialIn), "killall -9 mgetty", kDialOutRestart[0], gate(kClosed, kDialOut)},
+     {kDialOutRestart.begin() + 1, kDialOutRestart.end()}});
+const Lines kCallbackStops = joined({{kDialOutRestart[0], gate(kClosed, kDialOut)},
+                                     {kDialOutRestart.begin() + 1, kDialOutRestart.end()},
+                                     {gate(kClosed, kDialIn), "killall -9 mgetty"}});
+
+void dialInUp() {
+  appliance::linkUp(appliance::Direction::DialIn, "ppp0", "10.0.0.1", "10.0.0.2");
+}
+// True when `all` is `first` and `second` merged, each in its own order: the change callback
+// runs on the platform's thread while a set may still run its own commands.
+bool interleaves(const Lines& all, const Lines& first, const Lines& second, std::size_t i = 0,
+                 std::size_t j = 0) {
+  if (i + j == all.size()) return i == first.size() && j == second.size();
+  const std::string& line = all[i + j];
+  return (i < first.size() && first[i] == line && interleaves(all, first, second, i + 1, j)) ||
+         (j < second.size() && second[j] == line && interleaves(all, first, second, i, j + 1));
+}
+
+class Service : public SettingsTest {
+ protected:
+  // The gate lines of the dial-in and the dial-out start script.
+  Lines state() override {
+    Lines gates;
+    for (const char* script : {kDialIn, kDialOut})
+      for (const std::string& line : appliance::readLines(script))
+        if (line == kOpen || line == kClosed) gates.push_back(line);
+    return gates;
+  }
+  // The pristine appliance again, once the callbacks its registry rewrite causes are done.
+  void pristine() {
+    appliance::reset();
+    QvlNotifySync();
+    appliance::clearJournal();
+    env_->log().clear();
+  }
+  // A registry change made by another program, once the module's callback has acted on it.
+  static void fromOutside(const char* value) {
+    appliance::regSet("ModemStatus", value);
+    QvlNotifySync();
+  }
+  // A set of modemStatus, once the callback its registry write causes is done.
+  CimFailure setStatus(bool value) {
+    const CimFailure failure = modify(kService, {{"modemStatus", client::flag(value)}});
+    QvlNotifySync();
+    return failure;
+  }
+};
+
+// "ENABLED" and "DISABLED" in any case; a disabled service is stopped again at every get.
+TEST_F(Service, GetShowsTheSwitchAndStopsADisabledService) {
+  EXPECT_EQ(shown(kService), (Lines{"SystemCreationClassName=Zeph_System", "SystemName=Zeph",
+                                    "CreationClassName=Zeph_RASService", "Name=RASService",
+                                    "ElementName=", "modemStatus=true"}));
+  struct Case {
+    std::function<void()> setUp;
+    const char* shows;
+    Lines journal;
+    Lines logs;
+  };
+  const std::vector<Case> cases = {
+      {dialInUp, "true", {}, {}},
+      {[] { fromOutside("enabled"); }, "true", {}, {}},
+      {[] { fromOutside("disabled"); },
+       "false",
+       kStops,
+       {"Interface for DialIn  is", "ProcessCmd1 is", "Interface for DialOut  is",
+        "ProcessCmd is"}},
+      {[] { fromOutside("DISABLED"), dialInUp(); },
+       "false",
+       joined({{gate(kClosed, kDialIn), hangup("ppp0")}, {kStops.begin() + 1, kStops.end()}}),
+       {}},
+      {[] { fromOutside("OFF"); },
+       "false",
+       {},
+       {"ERROR:modemStatus is not properly update in the PDR.. \n"}},
+      {[] { appliance::regDelete("ModemStatus"), QvlNotifySync(); },
+       "false",
+       {},
+       {"Error IN QVL Operation\n"}},
+  };
+  for (const Case& c : cases) {
+    pristine();
+    c.setUp();
+    appliance::clearJournal();
+    env_->log().clear();
+    EXPECT_EQ(valueOf(kService, "modemStatus"), c.shows);
+    EXPECT_EQ(appliance::journal(), c.journal);
+    EXPECT_EQ(logged().front(), "Zeph_RASServiceImpl::getmodemStatus\n");
+    for (const std::string& log : c.logs) EXPECT_TRUE(wasLogged(log)) << log;
+  }
+}
+
+// The stops come first and the registry is written last: both hang-ups still saw "ENABLED".
+TEST_F(Service, DisablingDuringCallsStopsEverythingBeforeTheRegistrySaysSo) {
+  dialInUp();
+  appliance::linkUp(appliance::Direction::DialOut, "ppp1", "10.1.0.1", "10.1.0.2");
+  appliance::writeFile("/qv/etc/ppp/ppp_hup_v2k",
+                       "#!/bin/sh\necho \"$1 $(appliance-ctl reg get ModemStatus)\" >> "
+                       "/var/lib/appliance/hangups\nexec appliance-ctl hangup \"$@\"\n");
+  appliance::clearJournal();
+  env_->log().clear();
+  EXPECT_EQ(setStatus(false), CimFailure{});
+  EXPECT_EQ(appliance::journal(),
+            joined({{gate(kClosed, kDialIn), hangup("ppp0"), "killall -9 mgetty",
+                     gate(kClosed, kDialOut), "killall -9 chat", hangup("ppp1")},
+                    kCallbackStops}));
+  EXPECT_EQ(appliance::readLines("/var/lib/appliance/hangups"),
+            (Lines{"ppp0 ENABLED", "ppp1 ENABLED", "ppp DISABLED"}));
+  EXPECT_EQ(appliance::regGet("ModemStatus"), "DISABLED");
+  EXPECT_EQ(state(), kBothClosed);
+  EXPECT_EQ(appliance::processState("mgetty"), "");
+  EXPECT_EQ(logged().front(), "Zeph_RASServiceImpl::setmodemStatus\n");
+  EXPECT_TRUE(wasLogged("Calling Callback Function"));
+}
+
+// The set's own commands and those of the change callback may interleave. A failed registry
+// write reaches the client as status 100; what ran stays done.
+TEST_F(Service, SettingTheSwitchWritesTheRegistryAndBringsTheScriptsInLine) {
+  const auto disabledScripts = [] {
+    fromOutside("DISABLED");
+    for (const char* script : {kDialIn, kDialOut})
+      client::replaceLine(script, "#ENABLED", "#DISABLED");
+  };
+  struct Case {
+    std::function<void()> setUp;
+    bool value;
+    Lines bySet, byCallback;
+    Lines gates;
+  };
+  const std::vector<Case> cases = {
+      {[] {}, true, kResumeOut, {}, kBothOpen},
+      {[] { fromOutside("DISABLED"); }, true, kResumeOut, kResumeBoth, kBothOpen},
+      {disabledScripts,
+       true,
+       {gate(kClosed, kDialOut)},
+       {gate(kClosed, kDialIn), gate(kClosed, kDialOut)},
+       kBothClosed},
+      {[] {}, false, kStops, kCallbackStops, kBothClosed},
+  };
+  for (const Case& c : cases) {
+    pristine();
+    c.setUp();
+    appliance::clearJournal();
+    appliance::clearCalls();
+    EXPECT_EQ(setStatus(c.value), CimFailure{});
+    EXPECT_TRUE(interleaves(appliance::journal(), c.bySet, c.byCallback))
+        << ::testing::PrintToString(appliance::journal());
+    EXPECT_EQ(state(), c.gates);
+    EXPECT_EQ(appliance::regGet("ModemStatus"), c.value ? "ENABLED" : "DISABLED");
+  }
+  for (const auto& [value, journal] : {std::pair{false, kStops}, {true, kResumeOut}}) {
+    pristine();
+    const appliance::ScopedEnv broken("QVL_REGISTRY", "/nonexistent/registry");
+    EXPECT_EQ(setStatus(value), status("Zeph_RASService", 100));
+    EXPECT_EQ(appliance::journal(), journal);
+    EXPECT_EQ(count(loggedWithCategory(), "ERROR|Error in QVL Operation\n"), 1);
+  }
+  EXPECT_EQ(appliance::regGet("ModemStatus"), "ENABLED");
+}
+
+TEST_F(Service, OutsideChangesActUntilTheServiceIsDeleted) {
+  EXPECT_TRUE(wasLogged("Successful in Notify"));
+  dialInUp();
+  appliance::clearJournal();
+  fromOutside("disabled");
+  EXPECT_EQ(appliance::journal(),
+            joined({{"/sbin/ifconfig | grep \"ppp\" | grep -v \"ppp0\" > /tmp/ifout ",
+                     gate(kClosed, kDialOut), "killall -9 chat", hangup("ppp"),
+                     gate(kClosed, kDialIn), hangup("ppp0"), "killall -9 mgetty"}}));
+  EXPECT_EQ(valueOf(kService, "modemStatus"), "false");
+  appliance::clearJournal();
+  fromOutside("ENABLED");
+  EXPECT_EQ(appliance::journal(), kResumeBoth);
+  EXPECT_EQ(state(), kBothOpen);
+  call([&](const auto& env) { provider_->deleteInstance(env, kNs, kService.path()); });
+  appliance::clearJournal();
+  fromOutside("DISABLED");
+  EXPECT_TRUE(appliance::journal().empty());
+  EXPECT_EQ(state(), kBothOpen);
+}
+
+}  // namespace
