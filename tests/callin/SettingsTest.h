@@ -1,12 +1,13 @@
 // What the settings classes' tests share: instances shown as a client sees them, and tables of
 // sets run in order on one appliance, each row with the commands it runs and the lines it
 // leaves, or with the error of a refused value, which runs and changes nothing.
-#ifndef SETTINGS_SETTINGSTEST_H
-#define SETTINGS_SETTINGSTEST_H
+#pragma once
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <functional>
 
 #include "ClientFixture.h"
 
@@ -49,11 +50,17 @@ inline CimFailure notValid(const std::string& cls) {
 struct Set {
   Target target;
   const char* property;
-  CIMValue value;  // also the value read back after a valid set
+  CIMValue value;  // read back after a valid set
   Lines journal;
-  Lines lines;  // lines that state() holds after a valid set, as often as listed
-  CimFailure failure = {};
+  Lines lines;  // that state() holds after a valid set, as often as listed
+  CimFailure failure;
 };
+inline Set valid(Target t, const char* property, CIMValue v, Lines journal, Lines lines = {}) {
+  return {t, property, v, journal, lines, {}};
+}
+inline Set refused(Target t, const char* property, CIMValue v, CimFailure failure) {
+  return {t, property, v, {}, {}, failure};
+}
 
 class SettingsTest : public client::ClientTest {
  protected:
@@ -72,6 +79,12 @@ class SettingsTest : public client::ClientTest {
     Lines out;
     for (const OpenWBEM::CIMProperty& p : get(target).getProperties())
       out.push_back(std::string(p.getName().c_str()) + "=" + shown(p));
+    return out;
+  }
+  // The values of the properties, each followed by a space.
+  std::string values(const Target& target, std::initializer_list<const char*> properties) {
+    std::string out;
+    for (const char* property : properties) out += valueOf(target, property) + " ";
     return out;
   }
 
@@ -95,5 +108,3 @@ class SettingsTest : public client::ClientTest {
 };
 
 }  // namespace settings
-
-#endif

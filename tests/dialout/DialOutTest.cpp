@@ -1,10 +1,8 @@
 // Dial-out settings as a client sees them: the number, retries and interval in the dial-out
 // scripts, the user offered from the CIMOM's accounts that may dial out, its secret in both
-// secrets files, the restart of an idle dial-out link, and the values refused. Tests share one
-// appliance: resetting it would rewrite the registry under the "ModemStatus" subscription.
-#include "AccountHandle.h"
+// secrets files, and the values refused.
+#include "DialOutFixture.h"
 #include "SettingsTest.h"
-#include "Zeph_DialOutSettingDataImpl.h"
 
 namespace {
 
@@ -13,21 +11,9 @@ using client::text;
 using client::u16;
 
 const char kClass[] = "Zeph_DialOutSettingData";
-const Target kDialOut = client::settingData(kClass, "Velmar:Zeph_DialOutSettingData");
 const char kCall[] = "/qv/etc/ppp/ppp_call_v2k";
 const char kCallback[] = "/qv/etc/ppp/callback_v2k";
 const char kOptions[] = "/qv/etc/ppp/options_dialout";
-
-// The CIMOM's handle serves Zeph_Account from the appliance's account list.
-class AccountEnvironment : public TestEnvironment {
- public:
-  OpenWBEM::CIMOMHandleIFCRef getCIMOMHandle() const override { return accounts_; }
-  OpenWBEM::CIMOMHandleIFCRef getRepositoryCIMOMHandle() const override { return accounts_; }
-  OpenWBEM::ProviderEnvironmentIFCRef clone() const override { return new AccountEnvironment; }
-
- private:
-  OpenWBEM::CIMOMHandleIFCRef accounts_{new harness::AccountHandle("/var/lib/appliance/accounts")};
-};
 
 std::string declare(const std::string& key, const std::string& value) {
   return "declare " + key + "=\"" + value + "\"";
@@ -83,8 +69,7 @@ TEST_F(DialOut, UserNameIsTheIndexOfTheDialOutUserAmongPrivilegedAccounts) {
   EXPECT_EQ(user(), "0 [ValueMap=] [Values=]");
   appliance::grantPrivilege(501);
   EXPECT_EQ(user(), "0 [ValueMap=0] [Values=backup]");
-  EXPECT_EQ(UserNames, Lines{"backup"});
-  runSets({{kDialOut, "DialOutUserName", text("1"), {}, {}, notValid(kClass)}});
+  runSets({refused(kDialOut, "DialOutUserName", text("1"), notValid(kClass))});
   const Lines log = logged();
   EXPECT_EQ(count(log, "Reading Zeph_Account"), 4);
   EXPECT_EQ(count(log, "Zeph_DialOutAccountImpl::getDialOutUserName\n"), 4);
@@ -95,106 +80,49 @@ TEST_F(DialOut, UserNameIsTheIndexOfTheDialOutUserAmongPrivilegedAccounts) {
 // secret is replaced in both secrets files under the user the object caches: empty until a
 // user is chosen (the script then refuses the call), the chosen index after that.
 TEST_F(DialOut, SetsEditTheirFilesOrFailWithTheirError) {
-  const std::string digits25 = "1234567890123456789012345";
-  const std::string add = "/opt/etc/RasProviderScripts/addPassword ";
+  const std::string digits25(25, '1'), add = "/opt/etc/RasProviderScripts/addPassword ";
+  const auto number = [](const std::string& value) {
+    return valid(kDialOut, "DialOutNumber", text(value),
+                 edit(kCall, "TELEPHONE_NUMBER", value, kDialOutRestart),
+                 {declare("TELEPHONE_NUMBER", value)});
+  };
+  const auto callback = [](const char* property, const char* key, int value) {
+    const std::string n = std::to_string(value);
+    return valid(kDialOut, property, u16(value), edit(kCallback, key, n), {declare(key, n)});
+  };
+  const auto refuse = [](const char* property, CIMValue value, CimFailure failure) {
+    return refused(kDialOut, property, value, failure);
+  };
   get(kDialOut);  // the list of two users the user-name setter indexes
   runSets({
-      {kDialOut,
-       "DialOutNumber",
-       text(digits25),
-       edit(kCall, "TELEPHONE_NUMBER", digits25, kDialOutRestart),
-       {declare("TELEPHONE_NUMBER", digits25)}},
-      {kDialOut,
-       "DialOutNumber",
-       text(""),
-       edit(kCall, "TELEPHONE_NUMBER", "", kDialOutRestart),
-       {declare("TELEPHONE_NUMBER", "")}},
-      {kDialOut,
-       "DialRetries",
-       u16(1),
-       edit(kCallback, "CALLBACK_RETRY", "1"),
-       {declare("CALLBACK_RETRY", "1")}},
-      {kDialOut,
-       "DialRetries",
-       u16(10),
-       edit(kCallback, "CALLBACK_RETRY", "10"),
-       {declare("CALLBACK_RETRY", "10")}},
-      {kDialOut,
-       "DialInterval",
-       u16(1),
-       edit(kCallback, "CALLBACK_DELAY", "1"),
-       {declare("CALLBACK_DELAY", "1")}},
-      {kDialOut,
-       "DialInterval",
-       u16(299),
-       edit(kCallback, "CALLBACK_DELAY", "299"),
-       {declare("CALLBACK_DELAY", "299")}},
-      {kDialOut,
-       "DialOutPassword",
-       text("first"),
-       {add + "  first /etc/ppp/pap-secrets", add + "  first /etc/ppp/chap-secrets"},
-       {}},
-      {kDialOut,
-       "DialOutUserName",
-       text("1"),
-       joined({{"/opt/etc/RasProviderScripts/setLine_dialout name backup"}, kDialOutRestart}),
-       {"name backup"}},
-      {kDialOut,
-       "DialOutPassword",
-       text("s3cret"),
-       {add + "1 first s3cret /etc/ppp/pap-secrets", add + "1 first s3cret /etc/ppp/chap-secrets"},
-       {"\"1\"\t*\t\"s3cret\"\t*", "\"1\"\t*\t\"s3cret\"\t*"}},
-      {kDialOut, "DialOutNumber", text(std::string(26, '1')), {}, {}, status(kClass, 15)},
-      {kDialOut, "DialOutNumber", text(std::string(25, '1') + "x"), {}, {}, status(kClass, 15)},
-      {kDialOut, "DialOutNumber", text("12a"), {}, {}, status(kClass, 16)},
-      {kDialOut, "DialOutNumber", text("555 0199; reboot"), {}, {}, status(kClass, 16)},
-      {kDialOut,
-       "DialOutNumber",
-       text(std::string(33, '1')),
-       {},
-       {},
-       tooLong(kClass, "DialOutNumber")},
-      {kDialOut, "DialRetries", u16(0), {}, {}, status(kClass, 2)},
-      {kDialOut, "DialRetries", u16(11), {}, {}, status(kClass, 2)},
-      {kDialOut, "DialInterval", u16(0), {}, {}, status(kClass, 3)},
-      {kDialOut, "DialInterval", u16(300), {}, {}, status(kClass, 3)},
-      {kDialOut, "DialOutUserName", text("2"), {}, {}, notValid(kClass)},
-      {kDialOut,
-       "DialOutUserName",
-       text(std::string(33, '0')),
-       {},
-       {},
-       tooLong(kClass, "DialOutUserName")},
-      {kDialOut,
-       "DialOutPassword",
-       text(std::string(33, 'p')),
-       {},
-       {},
-       tooLong(kClass, "DialOutPassword")},
+      number(digits25),
+      number(""),
+      callback("DialRetries", "CALLBACK_RETRY", 1),
+      callback("DialRetries", "CALLBACK_RETRY", 10),
+      callback("DialInterval", "CALLBACK_DELAY", 1),
+      callback("DialInterval", "CALLBACK_DELAY", 299),
+      valid(kDialOut, "DialOutPassword", text("first"),
+            {add + "  first /etc/ppp/pap-secrets", add + "  first /etc/ppp/chap-secrets"}),
+      valid(kDialOut, "DialOutUserName", text("1"),
+            joined({{"/opt/etc/RasProviderScripts/setLine_dialout name backup"}, kDialOutRestart}),
+            {"name backup"}),
+      valid(kDialOut, "DialOutPassword", text("s3cret"),
+            {add + "1 first s3cret /etc/ppp/pap-secrets",
+             add + "1 first s3cret /etc/ppp/chap-secrets"},
+            {"\"1\"\t*\t\"s3cret\"\t*", "\"1\"\t*\t\"s3cret\"\t*"}),
+      refuse("DialOutNumber", text(digits25 + "1"), status(kClass, 15)),
+      refuse("DialOutNumber", text(digits25 + "x"), status(kClass, 15)),
+      refuse("DialOutNumber", text("12a"), status(kClass, 16)),
+      refuse("DialOutNumber", text("555 0199; reboot"), status(kClass, 16)),
+      refuse("DialOutNumber", text(std::string(33, '1')), tooLong(kClass, "DialOutNumber")),
+      refuse("DialRetries", u16(0), status(kClass, 2)),
+      refuse("DialRetries", u16(11), status(kClass, 2)),
+      refuse("DialInterval", u16(0), status(kClass, 3)),
+      refuse("DialInterval", u16(300), status(kClass, 3)),
+      refuse("DialOutUserName", text("2"), notValid(kClass)),
+      refuse("DialOutUserName", text(std::string(33, '0')), tooLong(kClass, "DialOutUserName")),
+      refuse("DialOutPassword", text(std::string(33, 'p')), tooLong(kClass, "DialOutPassword")),
   });
-}
-
-// A number change hangs up an idle or absent dial-out link; an established dial-out call and a
-// dial-in call are left alone.
-TEST_F(DialOut, NumberChangeHangsUpOnlyADialOutLinkThatIsNotInACall) {
-  using appliance::Direction;
-  appliance::linkUp(Direction::DialOut, "ppp0", "10.64.0.2", "10.64.0.1");
-  runSets({{kDialOut,
-            "DialOutNumber",
-            text("5550123"),
-            edit(kCall, "TELEPHONE_NUMBER", "5550123"),
-            {}}});
-  appliance::linkDown("ppp0");
-  appliance::linkUp(Direction::DialIn, "ppp0", "10.0.0.1", "10.0.0.2");
-  appliance::linkUp(Direction::DialOut, "ppp1", "10.64.0.2", "10.64.0.1", true);
-  runSets({{kDialOut,
-            "DialOutNumber",
-            text("5550124"),
-            edit(kCall, "TELEPHONE_NUMBER", "5550124",
-                 {"/sbin/ifconfig | grep \"ppp\" | grep -v \"ppp0\" > /tmp/ifout ",
-                  "/qv/etc/ppp/ppp_hup_v2k ppp1"}),
-            {}}});
-  EXPECT_EQ(appliance::readFile("/var/lib/appliance/links").find("ppp1"), std::string::npos);
 }
 
 }  // namespace

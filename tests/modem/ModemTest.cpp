@@ -30,23 +30,6 @@ std::string declared(const std::string& variable, const std::string& code) {
 std::string port(const std::string& name) {
   return declared("-r SERIAL_PORT", name);
 }
-// The answering side's write of one code, the calling side's edit of one connect variable.
-Lines modemParam(int parameter, const std::string& code) {
-  return joined(
-      {{"/opt/etc/RasProviderScripts/setModemParam " + std::to_string(parameter) + " " + code},
-       kMgettyRestart});
-}
-Lines callEdit(const std::string& variable, const std::string& code) {
-  return joined(
-      {{"sed -i '/^declare " + variable + "=/ c " + declared(variable, code) + "' " + kCall},
-       kDialOutRestart});
-}
-// The edits that make the side's options read `crtscts` and `xonxoff` as given.
-Lines flowEdits(const char* file, const std::string& crtscts, const std::string& xonxoff) {
-  return {"/bin/sed -i 's/^#\\?crtscts/" + crtscts + "/' " + file,
-          "/bin/sed -i 's/^#\\?xonxoff/" + xonxoff + "/' " + file};
-}
-
 class Modem : public SettingsTest {
  protected:
   // Lines of the files and codes the sets change, each under the name of its place.
@@ -60,89 +43,61 @@ class Modem : public SettingsTest {
       all.push_back("modem " + std::to_string(parameter) + appliance::modemCode(parameter));
     return all;
   }
-  std::string values(const Target& target, std::initializer_list<const char*> properties) {
-    std::string out;
-    for (const char* property : properties) out += valueOf(target, property) + " ";
-    return out;
-  }
 };
-
-TEST_F(Modem, BothSidesAreListedWithTheirFixedNames) {
-  for (const auto& [cls, key, ids] :
-       {std::tuple{"Zeph_SoftModem", "DeviceID", Lines{"SoftModemIn", "SoftModemOut"}},
-        std::tuple{kPort, "DeviceId", Lines{"DialInSerialPort", "DialOutSerialPort"}}}) {
-    Lines found;
-    for (const auto& path : enumNames(cls)) found.push_back(client::textOf(path.getKeyValue(key)));
-    EXPECT_EQ(found, ids);
-  }
-  EXPECT_EQ(values(kModemOut, {"ElementName", "Name"}), " DSP Soft Modem   V.42 Modem  ");
-  EXPECT_EQ(values(kPortOut, {"ElementName", "Name", "FlowControl"}), "SerialPort ttyS1 1 ");
-  EXPECT_TRUE(wasLogged("Name of the Serial Port is "));
-}
 
 // Unknown codes leave a field as the object was built (false, 0) and are only logged. Hardware
 // flow control wins when both options are active. The dial-out port comes from the script
 // pppd is started by, not from the one a new name is written to.
 TEST_F(Modem, EachSideReadsItsCodesPortAndFlowControlWhenBuilt) {
   struct Row {
-    std::map<int, std::string> modem;  // parameter -> code
-    const char* call;                  // ERRC, COMP and SPEED lines of the connect script
-    const char* crtscts;
-    const char* xonxoff;
-    const char* ports[2];  // dial-in, dial-out
-    const char* in;        // ErrorControl, CallSpeed, Compression; Name, FlowControl
-    const char* out;
+    Lines modem;       // codes of parameters 2, 3, 4
+    std::string call;  // the connect script's ERRC, COMP and SPEED lines
+    Lines options;     // crtscts and xonxoff lines of both sides' options
+    Lines ports;       // dial-in and dial-out port lines, none when empty
+    Lines values;      // ErrorControl CallSpeed Compression Name FlowControl, by side
     Lines logs;
   };
-  const std::vector<Row> rows = {
-      {{{2, "m0"}, {3, "k0"}, {4, "n14"}},
-       "ERRC=\"&m0\"\ndeclare MODEM_OPT_COMP=\"&k0\"\ndeclare MODEM_OPT_SPEED=\"&n7\"",
-       "crtscts",
-       "xonxoff",
-       {"ttyS0", "ttyS3"},
-       "false 14 false ttyS0 1 ",
-       "false 7 false ttyS3 1 ",
-       {"SoftModemDialIn Speed 14", "The value of speed is 7"}},
-      {{{2, "m5"}, {3, "k2"}, {4, "n0"}},
-       "ERRC=\"&m5\"\ndeclare MODEM_OPT_COMP=\"&k2\"\ndeclare MODEM_OPT_SPEED=\"&n0\"",
-       "#crtscts",
-       "xonxoff",
-       {"ttyUSB0", "ttyS2"},
-       "true 0 true ttyUSB0 2 ",
-       "true 0 true ttyS2 2 ",
-       {}},
-      // An unquoted value, speeds past 8 bits, no port line.
-      {{{2, "m3"}, {3, "k1"}, {4, "n300"}},
-       "ERRC=\"&m3\"\ndeclare MODEM_OPT_COMP=&k2\ndeclare MODEM_OPT_SPEED=\"&n260\"",
-       "#crtscts",
-       "#xonxoff",
-       {"", "ttyS1"},
-       "false 44 false  0 ",
-       "false 4 false ttyS1 0 ",
-       {"The value of Error Control is", "3", "The value of Compression is", "1",
-        "The value of (Dial-Out) Compression is"}},
+  const auto call = [](const char* errc, const char* comp, const char* speed) {
+    return "declare MODEM_OPT_ERRC=" + std::string(errc) + "\ndeclare MODEM_OPT_COMP=" + comp +
+           "\ndeclare MODEM_OPT_SPEED=" + speed + "\n";
   };
+  const std::vector<Row> rows = {
+      {Lines{"m0", "k0", "n14"}, call("\"&m0\"", "\"&k0\"", "\"&n7\""), Lines{"crtscts", "xonxoff"},
+       Lines{"ttyS0", "ttyS3"}, Lines{"false 14 false ttyS0 1 ", "false 7 false ttyS3 1 "},
+       Lines{"SoftModemDialIn Speed 14", "The value of speed is 7"}},
+      {Lines{"m5", "k2", "n0"}, call("\"&m5\"", "\"&k2\"", "\"&n0\""), Lines{"#crtscts", "xonxoff"},
+       Lines{"ttyUSB0", "ttyS2"}, Lines{"true 0 true ttyUSB0 2 ", "true 0 true ttyS2 2 "}, Lines{}},
+      // An unquoted value, speeds past 8 bits, no port line.
+      {Lines{"m3", "k1", "n300"}, call("\"&m3\"", "&k2", "\"&n260\""),
+       Lines{"#crtscts", "#xonxoff"}, Lines{"", "ttyS1"},
+       Lines{"false 44 false  0 ", "false 4 false ttyS1 0 "},
+       Lines{"The value of Error Control is", "3", "The value of Compression is", "1",
+             "The value of (Dial-Out) Compression is"}},
+  };
+  EXPECT_EQ(values(kModemOut, {"ElementName", "Name"}), " DSP Soft Modem   V.42 Modem  ");
+  EXPECT_EQ(valueOf(kPortOut, "ElementName"), "SerialPort");
   appliance::writeFile(kAddoScript, port("ttyS9") + "\n");
   for (const Row& row : rows) {
     SCOPED_TRACE(row.call);
-    for (const auto& [parameter, code] : row.modem) appliance::setModemCode(parameter, code);
-    appliance::writeFile(kCall, std::string("declare MODEM_OPT_") + row.call + "\n");
-    for (const char* options : {kInOptions, kOutOptions}) {
-      client::replaceLines(options, "crtscts", row.crtscts);
-      client::replaceLines(options, "#crtscts", row.crtscts);
-      client::replaceLines(options, "xonxoff", row.xonxoff);
-      client::replaceLines(options, "#xonxoff", row.xonxoff);
+    for (int i = 0; i < 3; ++i) appliance::setModemCode(i + 2, row.modem[i]);
+    appliance::writeFile(kCall, row.call);
+    for (const char* options : {kInOptions, kOutOptions})
+      for (int i : {0, 1})
+        for (const char* comment : {"", "#"})
+          client::replaceLines(options, comment + std::string(i ? "xonxoff" : "crtscts"),
+                               row.options[i]);
+    for (const char* script : {kMgettyScript, kPppdScript}) {
+      const std::string& name = row.ports[script == kMgettyScript ? 0 : 1];
+      client::replaceLines(script, "declare -r SERIAL_PORT=", name.empty() ? "" : port(name));
     }
-    client::replaceLines(kMgettyScript,
-                         "declare -r SERIAL_PORT=", *row.ports[0] ? port(row.ports[0]) : "");
-    client::replaceLines(kPppdScript, "declare -r SERIAL_PORT=", port(row.ports[1]));
     initialize();
     for (const auto& [modem, serial, expected] :
-         {std::tuple{kModemIn, kPortIn, row.in}, {kModemOut, kPortOut, row.out}})
+         {std::tuple{kModemIn, kPortIn, row.values[0]}, {kModemOut, kPortOut, row.values[1]}})
       EXPECT_EQ(values(modem, {"ErrorControl", "CallSpeed", "Compression"}) +
                     values(serial, {"Name", "FlowControl"}),
                 expected);
-    for (const std::string& log : row.logs) EXPECT_TRUE(wasLogged(log)) << log;
+    for (const std::string& log : joined({row.logs, {"Name of the Serial Port is "}}))
+      EXPECT_TRUE(wasLogged(log)) << log;
     for (const char* file : {"/tmp/modem_err", "/tmp/modem_speed", "/tmp/modem_comp"})
       EXPECT_FALSE(appliance::fileExists(file)) << file;
   }
@@ -153,58 +108,58 @@ TEST_F(Modem, EachSideReadsItsCodesPortAndFlowControlWhenBuilt) {
 // side's script (and mgetty's configuration for dial-in) without a restart; flow control edits
 // the side's options, and dial-out is restarted.
 TEST_F(Modem, EachSetWritesItsSidesPlaceAndRestartsItsSide) {
+  const auto answering = [](const char* property, CIMValue v, int parameter, const char* code) {
+    return valid(kModemIn, property, v,
+                 joined({{"/opt/etc/RasProviderScripts/setModemParam " + std::to_string(parameter) +
+                          " " + code},
+                         kMgettyRestart}),
+                 {"modem " + std::to_string(parameter) + code});
+  };
+  const auto calling = [](const char* property, CIMValue v, const std::string& variable,
+                          const std::string& code) {
+    return valid(kModemOut, property, v,
+                 joined({{"sed -i '/^declare " + variable + "=/ c " + declared(variable, code) +
+                          "' " + kCall},
+                         kDialOutRestart}),
+                 {"ppp_call_v2k " + declared(variable, code)});
+  };
+  const auto portEdit = [](const std::string& name, const char* script) {
+    return "/bin/sed -i '/declare -r SERIAL_PORT/ c " + port(name) + "' " + script;
+  };
+  // The edits that make the side's options read `crtscts` and `xonxoff` as given.
+  const auto flow = [](const Target& side, int value, const std::string& crtscts,
+                       const std::string& xonxoff, const Lines& restart = {}) {
+    const std::string file = side.keys[3].second == "DialInSerialPort" ? kInOptions : kOutOptions;
+    const std::string name = file.substr(file.rfind('/') + 1) + " ";
+    return valid(side, "FlowControl", u8(value),
+                 joined({{"/bin/sed -i 's/^#\\?crtscts/" + crtscts + "/' " + file,
+                          "/bin/sed -i 's/^#\\?xonxoff/" + xonxoff + "/' " + file},
+                         restart}),
+                 {name + crtscts, name + xonxoff});
+  };
   runSets({
-      {kModemIn, "ErrorControl", flag(false), modemParam(2, "m0"), {"modem 2m0"}},
-      {kModemIn, "ErrorControl", flag(true), modemParam(2, "m5"), {"modem 2m5"}},
-      {kModemIn, "CallSpeed", u8(65), modemParam(4, "n65"), {"modem 4n65"}},
-      {kModemIn, "Compression", flag(false), modemParam(3, "k0"), {"modem 3k0"}},
-      {kModemIn, "Compression", flag(true), modemParam(3, "k2"), {"modem 3k2"}},
-      {kModemOut,
-       "ErrorControl",
-       flag(false),
-       callEdit("MODEM_OPT_ERRC", "&m0"),
-       {"ppp_call_v2k " + declared("MODEM_OPT_ERRC", "&m0")}},
-      {kModemOut,
-       "CallSpeed",
-       u8(200),
-       callEdit("MODEM_OPT_SPEED", "&n200"),
-       {"ppp_call_v2k " + declared("MODEM_OPT_SPEED", "&n200")}},
-      {kModemOut,
-       "Compression",
-       flag(true),
-       callEdit("MODEM_OPT_COMP", "&k2"),
-       {"ppp_call_v2k " + declared("MODEM_OPT_COMP", "&k2")}},
-      {kPortIn,
-       "Name",
-       text("ttyS2"),
-       {"/bin/sed -i '/^port/ c port ttyS2' " + std::string(kMgettyConfig),
-        "/bin/sed -i '/declare -r SERIAL_PORT/ c " + port("ttyS2") + "' " + kMgettyScript},
-       {"mgetty.config port ttyS2", "mgetty_v2k " + port("ttyS2")}},
-      {kPortOut,
-       "Name",
-       text("ttyUSB1"),
-       {"/bin/sed -i '/declare -r SERIAL_PORT/ c " + port("ttyUSB1") + "' " + kAddoScript},
-       {"pppd_addo_v2k " + port("ttyUSB1"), "pppd_dialout_v2k " + port("ttyS1")}},
-      {kPortIn,
-       "FlowControl",
-       u8(0),
-       flowEdits(kInOptions, "#crtscts", "#xonxoff"),
-       {"options_dialin #crtscts", "options_dialin #xonxoff"}},
-      {kPortIn,
-       "FlowControl",
-       u8(2),
-       flowEdits(kInOptions, "#crtscts", "xonxoff"),
-       {"options_dialin #crtscts", "options_dialin xonxoff"}},
-      {kPortOut,
-       "FlowControl",
-       u8(1),
-       joined({flowEdits(kOutOptions, "crtscts", "#xonxoff"), kDialOutRestart}),
-       {"options_dialout crtscts", "options_dialout #xonxoff"}},
-      {kPortIn, "Name", text("ttyS1;reboot"), {}, {}, notValid(kPort)},
-      {kPortOut, "Name", text("/dev/ttyS1"), {}, {}, notValid(kPort)},
-      {kPortIn, "Name", text("tty S1"), {}, {}, notValid(kPort)},
-      {kPortIn, "Name", text(std::string(33, 'a')), {}, {}, tooLong(kPort, "Name")},
-      {kPortIn, "FlowControl", u8(3), {}, {}, status(kPort, 100)},
+      answering("ErrorControl", flag(false), 2, "m0"),
+      answering("ErrorControl", flag(true), 2, "m5"),
+      answering("CallSpeed", u8(65), 4, "n65"),
+      answering("Compression", flag(false), 3, "k0"),
+      answering("Compression", flag(true), 3, "k2"),
+      calling("ErrorControl", flag(false), "MODEM_OPT_ERRC", "&m0"),
+      calling("CallSpeed", u8(200), "MODEM_OPT_SPEED", "&n200"),
+      calling("Compression", flag(true), "MODEM_OPT_COMP", "&k2"),
+      valid(kPortIn, "Name", text("ttyS2"),
+            {"/bin/sed -i '/^port/ c port ttyS2' " + std::string(kMgettyConfig),
+             portEdit("ttyS2", kMgettyScript)},
+            {"mgetty.config port ttyS2", "mgetty_v2k " + port("ttyS2")}),
+      valid(kPortOut, "Name", text("ttyUSB1"), {portEdit("ttyUSB1", kAddoScript)},
+            {"pppd_addo_v2k " + port("ttyUSB1"), "pppd_dialout_v2k " + port("ttyS1")}),
+      flow(kPortIn, 0, "#crtscts", "#xonxoff"),
+      flow(kPortIn, 2, "#crtscts", "xonxoff"),
+      flow(kPortOut, 1, "crtscts", "#xonxoff", kDialOutRestart),
+      refused(kPortIn, "Name", text("ttyS1;reboot"), notValid(kPort)),
+      refused(kPortOut, "Name", text("/dev/ttyS1"), notValid(kPort)),
+      refused(kPortIn, "Name", text("tty S1"), notValid(kPort)),
+      refused(kPortIn, "Name", text(std::string(33, 'a')), tooLong(kPort, "Name")),
+      refused(kPortIn, "FlowControl", u8(3), status(kPort, 100)),
   });
   for (const char* log :
        {"Setting Error Control for Dialin", "Mgetty is Restarted for Error Control",

@@ -26,13 +26,11 @@ Lines resume(const char* script, const std::string& process) {
 }
 const Lines kResumeOut = resume(kDialOut, "ppp_add_v2k");
 const Lines kResumeBoth = joined({resume(kDialIn, "mgetty_v2k"), kResumeOut});
-// What a disabling runs with no link up: dial-in stopped, then dial-out.
-const Lines kStops = joined(
-    {{gate(kClosed, kDialIn), "killall -9 mgetty", kDialOutRestart[0], gate(kClosed, kDialOut)},
-     {kDialOutRestart.begin() + 1, kDialOutRestart.end()}});
-const Lines kCallbackStops = joined({{kDialOutRestart[0], gate(kClosed, kDialOut)},
-                                     {kDialOutRestart.begin() + 1, kDialOutRestart.end()},
-                                     {gate(kClosed, kDialIn), "killall -9 mgetty"}});
+// Dial-in and dial-out stopped with no link up, by a set and by the change callback.
+const Lines kStopIn = {gate(kClosed, kDialIn), "killall -9 mgetty"};
+const Lines kStopOut = joined({{kDialOutRestart[0], gate(kClosed, kDialOut)},
+                               Lines(kDialOutRestart.begin() + 1, kDialOutRestart.end())});
+const Lines kStops = joined({kStopIn, kStopOut}), kCallbackStops = joined({kStopOut, kStopIn});
 
 void dialInUp() {
   appliance::linkUp(appliance::Direction::DialIn, "ppp0", "10.0.0.1", "10.0.0.2");
@@ -57,10 +55,12 @@ class Service : public SettingsTest {
         if (line == kOpen || line == kClosed) gates.push_back(line);
     return gates;
   }
-  // The pristine appliance again, once the callbacks its registry rewrite causes are done.
-  void pristine() {
+  // The pristine appliance again once the callbacks of its registry rewrite are done, changed
+  // by `setUp`, with the journal and the log emptied.
+  void pristine(const std::function<void()>& setUp = [] {}) {
     appliance::reset();
     QvlNotifySync();
+    setUp();
     appliance::clearJournal();
     env_->log().clear();
   }
@@ -77,59 +77,39 @@ class Service : public SettingsTest {
   }
 };
 
-// "ENABLED" and "DISABLED" in any case; a disabled service is stopped again at every get.
+// A disabled service is stopped again at every get.
 TEST_F(Service, GetShowsTheSwitchAndStopsADisabledService) {
   EXPECT_EQ(shown(kService), (Lines{"SystemCreationClassName=Zeph_System", "SystemName=Zeph",
                                     "CreationClassName=Zeph_RASService", "Name=RASService",
                                     "ElementName=", "modemStatus=true"}));
-  struct Case {
-    std::function<void()> setUp;
-    const char* shows;
-    Lines journal;
-    Lines logs;
+  const std::vector<std::tuple<const char*, const char*, Lines, Lines>> cases = {
+      // registry value (none: no entry), modemStatus, commands, log lines
+      {"enabled", "true", Lines{}, Lines{}},
+      {"disabled", "false", kStops,
+       Lines{"Interface for DialIn  is", "ProcessCmd1 is", "Interface for DialOut  is"}},
+      {"OFF", "false", Lines{}, Lines{"ERROR:modemStatus is not properly update in the PDR.. \n"}},
+      {nullptr, "false", Lines{}, Lines{"Error IN QVL Operation\n"}},
   };
-  const std::vector<Case> cases = {
-      {dialInUp, "true", {}, {}},
-      {[] { fromOutside("enabled"); }, "true", {}, {}},
-      {[] { fromOutside("disabled"); },
-       "false",
-       kStops,
-       {"Interface for DialIn  is", "ProcessCmd1 is", "Interface for DialOut  is",
-        "ProcessCmd is"}},
-      {[] { fromOutside("DISABLED"), dialInUp(); },
-       "false",
-       joined({{gate(kClosed, kDialIn), hangup("ppp0")}, {kStops.begin() + 1, kStops.end()}}),
-       {}},
-      {[] { fromOutside("OFF"); },
-       "false",
-       {},
-       {"ERROR:modemStatus is not properly update in the PDR.. \n"}},
-      {[] { appliance::regDelete("ModemStatus"), QvlNotifySync(); },
-       "false",
-       {},
-       {"Error IN QVL Operation\n"}},
-  };
-  for (const Case& c : cases) {
-    pristine();
-    c.setUp();
-    appliance::clearJournal();
-    env_->log().clear();
-    EXPECT_EQ(valueOf(kService, "modemStatus"), c.shows);
-    EXPECT_EQ(appliance::journal(), c.journal);
+  for (const auto& [registry, shows, journal, logs] : cases) {
+    pristine([registry = registry] {
+      registry ? fromOutside(registry) : appliance::regDelete("ModemStatus"), QvlNotifySync();
+    });
+    EXPECT_EQ(valueOf(kService, "modemStatus"), shows);
+    EXPECT_EQ(appliance::journal(), journal);
     EXPECT_EQ(logged().front(), "Zeph_RASServiceImpl::getmodemStatus\n");
-    for (const std::string& log : c.logs) EXPECT_TRUE(wasLogged(log)) << log;
+    for (const std::string& log : logs) EXPECT_TRUE(wasLogged(log)) << log;
   }
 }
 
 // The stops come first and the registry is written last: both hang-ups still saw "ENABLED".
 TEST_F(Service, DisablingDuringCallsStopsEverythingBeforeTheRegistrySaysSo) {
-  dialInUp();
-  appliance::linkUp(appliance::Direction::DialOut, "ppp1", "10.1.0.1", "10.1.0.2");
-  appliance::writeFile("/qv/etc/ppp/ppp_hup_v2k",
-                       "#!/bin/sh\necho \"$1 $(appliance-ctl reg get ModemStatus)\" >> "
-                       "/var/lib/appliance/hangups\nexec appliance-ctl hangup \"$@\"\n");
-  appliance::clearJournal();
-  env_->log().clear();
+  pristine([] {
+    dialInUp();
+    appliance::linkUp(appliance::Direction::DialOut, "ppp1", "10.1.0.1", "10.1.0.2");
+    appliance::writeFile("/qv/etc/ppp/ppp_hup_v2k",
+                         "#!/bin/sh\necho \"$1 $(appliance-ctl reg get ModemStatus)\" >> "
+                         "/var/lib/appliance/hangups\nexec appliance-ctl hangup \"$@\"\n");
+  });
   EXPECT_EQ(setStatus(false), CimFailure{});
   EXPECT_EQ(appliance::journal(),
             joined({{gate(kClosed, kDialIn), hangup("ppp0"), "killall -9 mgetty",
@@ -144,40 +124,31 @@ TEST_F(Service, DisablingDuringCallsStopsEverythingBeforeTheRegistrySaysSo) {
   EXPECT_TRUE(wasLogged("Calling Callback Function"));
 }
 
-// The set's own commands and those of the change callback may interleave. A failed registry
-// write reaches the client as status 100; what ran stays done.
+// The set's own commands and the change callback's may interleave. A failed registry write
+// reaches the client as status 100; what ran stays done.
 TEST_F(Service, SettingTheSwitchWritesTheRegistryAndBringsTheScriptsInLine) {
-  const auto disabledScripts = [] {
-    fromOutside("DISABLED");
-    for (const char* script : {kDialIn, kDialOut})
-      client::replaceLine(script, "#ENABLED", "#DISABLED");
+  const auto disabled = [](const char* marker) {
+    return [marker] {
+      fromOutside("DISABLED");
+      for (const char* script : {kDialIn, kDialOut})
+        client::replaceLine(script, "#ENABLED", marker);
+    };
   };
-  struct Case {
-    std::function<void()> setUp;
-    bool value;
-    Lines bySet, byCallback;
-    Lines gates;
-  };
-  const std::vector<Case> cases = {
-      {[] {}, true, kResumeOut, {}, kBothOpen},
-      {[] { fromOutside("DISABLED"); }, true, kResumeOut, kResumeBoth, kBothOpen},
-      {disabledScripts,
-       true,
-       {gate(kClosed, kDialOut)},
-       {gate(kClosed, kDialIn), gate(kClosed, kDialOut)},
-       kBothClosed},
+  const std::vector<std::tuple<std::function<void()>, bool, Lines, Lines, Lines>> cases = {
+      // set-up, value, the set's commands, the callback's, gates after
+      {[] {}, true, kResumeOut, Lines{}, kBothOpen},
+      {disabled("#ENABLED"), true, kResumeOut, kResumeBoth, kBothOpen},
+      {disabled("#DISABLED"), true, Lines{gate(kClosed, kDialOut)},
+       Lines{gate(kClosed, kDialIn), gate(kClosed, kDialOut)}, kBothClosed},
       {[] {}, false, kStops, kCallbackStops, kBothClosed},
   };
-  for (const Case& c : cases) {
-    pristine();
-    c.setUp();
-    appliance::clearJournal();
-    appliance::clearCalls();
-    EXPECT_EQ(setStatus(c.value), CimFailure{});
-    EXPECT_TRUE(interleaves(appliance::journal(), c.bySet, c.byCallback))
+  for (const auto& [setUp, value, bySet, byCallback, gates] : cases) {
+    pristine(setUp);
+    EXPECT_EQ(setStatus(value), CimFailure{});
+    EXPECT_TRUE(interleaves(appliance::journal(), bySet, byCallback))
         << ::testing::PrintToString(appliance::journal());
-    EXPECT_EQ(state(), c.gates);
-    EXPECT_EQ(appliance::regGet("ModemStatus"), c.value ? "ENABLED" : "DISABLED");
+    EXPECT_EQ(state(), gates);
+    EXPECT_EQ(appliance::regGet("ModemStatus"), value ? "ENABLED" : "DISABLED");
   }
   for (const auto& [value, journal] : {std::pair{false, kStops}, {true, kResumeOut}}) {
     pristine();
@@ -191,18 +162,12 @@ TEST_F(Service, SettingTheSwitchWritesTheRegistryAndBringsTheScriptsInLine) {
 
 TEST_F(Service, OutsideChangesActUntilTheServiceIsDeleted) {
   EXPECT_TRUE(wasLogged("Successful in Notify"));
-  dialInUp();
-  appliance::clearJournal();
   fromOutside("disabled");
-  EXPECT_EQ(appliance::journal(),
-            joined({{"/sbin/ifconfig | grep \"ppp\" | grep -v \"ppp0\" > /tmp/ifout ",
-                     gate(kClosed, kDialOut), "killall -9 chat", hangup("ppp"),
-                     gate(kClosed, kDialIn), hangup("ppp0"), "killall -9 mgetty"}}));
-  EXPECT_EQ(valueOf(kService, "modemStatus"), "false");
+  EXPECT_EQ(appliance::journal(), kCallbackStops);
+  EXPECT_EQ(state(), kBothClosed);
   appliance::clearJournal();
   fromOutside("ENABLED");
   EXPECT_EQ(appliance::journal(), kResumeBoth);
-  EXPECT_EQ(state(), kBothOpen);
   call([&](const auto& env) { provider_->deleteInstance(env, kNs, kService.path()); });
   appliance::clearJournal();
   fromOutside("DISABLED");

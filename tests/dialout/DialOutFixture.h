@@ -1,0 +1,36 @@
+// The dial-out settings instance with a CIMOM handle that serves the appliance's Zeph_Account
+// instances, as the CIMOM on the appliance does (also the hostile tests' fixture).
+#ifndef DIALOUT_DIALOUTFIXTURE_H
+#define DIALOUT_DIALOUTFIXTURE_H
+
+#include <vector>
+
+#include "AccountHandle.h"
+#include "ClientFixture.h"
+#include "TestEnvironment.h"
+
+inline const client::Target kDialOut =
+    client::settingData("Zeph_DialOutSettingData", "Velmar:Zeph_DialOutSettingData");
+
+class AccountEnvironment : public TestEnvironment {
+ public:
+  OpenWBEM::CIMOMHandleIFCRef getCIMOMHandle() const override { return accounts_; }
+  OpenWBEM::CIMOMHandleIFCRef getRepositoryCIMOMHandle() const override { return accounts_; }
+  OpenWBEM::ProviderEnvironmentIFCRef clone() const override { return new AccountEnvironment; }
+
+ private:
+  OpenWBEM::CIMOMHandleIFCRef accounts_{new harness::AccountHandle("/var/lib/appliance/accounts")};
+};
+
+using client::Change;
+
+class DialOutTest : public client::ClientTest {
+ protected:
+  TestEnvRef makeEnvironment() const override { return new AccountEnvironment; }
+  OpenWBEM::CIMInstance get() { return ClientTest::get(kDialOut); }
+  CimFailure modify(const std::vector<Change>& changes) {
+    return ClientTest::modify(kDialOut, changes);
+  }
+};
+
+#endif
