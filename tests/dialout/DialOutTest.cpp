@@ -113,7 +113,6 @@ TEST_F(DialOut, SetsEditTheirFilesOrFailWithTheirError) {
       refuse("DialOutNumber", text(digits25 + "1"), status(kClass, 15)),
       refuse("DialOutNumber", text(digits25 + "x"), status(kClass, 15)),
       refuse("DialOutNumber", text("12a"), status(kClass, 16)),
-      refuse("DialOutNumber", text("555 0199; reboot"), status(kClass, 16)),
       refuse("DialOutNumber", text(std::string(33, '1')), tooLong(kClass, "DialOutNumber")),
       refuse("DialRetries", u16(0), status(kClass, 2)),
       refuse("DialRetries", u16(11), status(kClass, 2)),
