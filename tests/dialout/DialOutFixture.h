@@ -5,22 +5,11 @@
 
 #include <vector>
 
-#include "AccountHandle.h"
 #include "ClientFixture.h"
 #include "TestEnvironment.h"
 
 inline const client::Target kDialOut =
     client::settingData("Zeph_DialOutSettingData", "Velmar:Zeph_DialOutSettingData");
-
-class AccountEnvironment : public TestEnvironment {
- public:
-  OpenWBEM::CIMOMHandleIFCRef getCIMOMHandle() const override { return accounts_; }
-  OpenWBEM::CIMOMHandleIFCRef getRepositoryCIMOMHandle() const override { return accounts_; }
-  OpenWBEM::ProviderEnvironmentIFCRef clone() const override { return new AccountEnvironment; }
-
- private:
-  OpenWBEM::CIMOMHandleIFCRef accounts_{new harness::AccountHandle("/var/lib/appliance/accounts")};
-};
 
 using client::Change;
 

@@ -93,9 +93,6 @@ void clearJournal() {
 std::vector<std::string> calls() {
   return splitLines(readFile(kCallsPath));
 }
-void clearCalls() {
-  truncateFile(kCallsPath);
-}
 
 std::optional<std::string> regGet(const std::string& name) {
   ToolResult result = runTool({kCtl, "reg", "get", name});
@@ -125,10 +122,6 @@ void linkUp(Direction direction, const std::string& iface, const std::string& lo
   ctl(args);
 }
 
-void linkDown(const std::string& iface) {
-  ctl({"link", "down", iface});
-}
-
 std::string modemCode(int parameter) {
   return chomp(ctl({"modem", "get", std::to_string(parameter)}));
 }
@@ -149,10 +142,6 @@ std::vector<Account> accounts() {
 
 void addAccount(const std::string& name, const std::string& textualUserId) {
   ctl({"account", "add", name, textualUserId});
-}
-
-void removeAccount(const std::string& name) {
-  ctl({"account", "remove", name});
 }
 
 std::string processState(const std::string& name) {

@@ -54,7 +54,6 @@ std::vector<std::string> journal();
 void clearJournal();
 // What the stand-ins were asked, one "NAME ARG..." line per call.
 std::vector<std::string> calls();
-void clearCalls();
 
 // Registry entries of SoftModem/ModemCC (or NAME given as SECTION/GROUP/NAME).
 std::optional<std::string> regGet(const std::string& name);
@@ -67,7 +66,6 @@ void revokePrivilege(int userId, int privilege = 11, int kind = 1);
 // ifconfig and in the marker file. idle: a demand-dial interface not yet connected.
 void linkUp(Direction direction, const std::string& iface, const std::string& local,
             const std::string& peer, bool idle = false);
-void linkDown(const std::string& iface);
 
 // Modem codes by parameter: 2 error control ("m5"), 3 compression ("k2"), 4 speed ("n0").
 std::string modemCode(int parameter);
@@ -76,7 +74,6 @@ void setModemCode(int parameter, const std::string& code);
 // The Zeph_Account instances the CIMOM serves.
 std::vector<Account> accounts();
 void addAccount(const std::string& name, const std::string& textualUserId);
-void removeAccount(const std::string& name);
 
 // State of a simulated process ("running", "stopped"), empty when it does not run.
 std::string processState(const std::string& name);

@@ -85,13 +85,10 @@ class ClientTest : public ApplianceTest {
   void SetUp() override {
     ApplianceTest::SetUp();
     resetSession();
-    beforeInitialising();
     initialize();
   }
   void TearDown() override { resetSession(); }
 
-  // What a test changes on the pristine appliance before the module starts.
-  virtual void beforeInitialising() {}
   // The environment requests are made with; an area may serve other classes through it.
   virtual TestEnvRef makeEnvironment() const { return TestEnvironment::make(); }
 
@@ -186,32 +183,10 @@ class ClientTest : public ApplianceTest {
   }
 };
 
-// One row of a table per test, each in its own fresh appliance prepared by the row's setUp (if
-// any) before the module starts. Rows carry a `name` (letters and digits) that names the test.
-template <class Fixture, class Row>
-class RowTest : public Fixture, public ::testing::WithParamInterface<Row> {
- protected:
-  void beforeInitialising() override {
-    if (this->GetParam().setUp) this->GetParam().setUp();
-  }
-};
-
-struct RowName {
-  template <class Row>
-  std::string operator()(const ::testing::TestParamInfo<Row>& info) const {
-    return info.param.name;
-  }
-};
-
 // The lines of `head` followed by those of `tail`.
 inline Lines joined(Lines head, const Lines& tail) {
   head.insert(head.end(), tail.begin(), tail.end());
   return head;
-}
-
-inline bool hasLine(const std::string& file, const std::string& line) {
-  const Lines lines = appliance::readLines(file);
-  return std::find(lines.begin(), lines.end(), line) != lines.end();
 }
 
 // Rewrites `file` with every line for which `matches` holds replaced by `line`, or dropped
@@ -251,15 +226,5 @@ inline Lines qualifierValues(const OpenWBEM::CIMInstance& instance, const char* 
 }
 
 }  // namespace client
-
-namespace {
-// Rows print as their name, so that CTest's test names and failure messages stay readable.
-// Each test file's rows live in its unnamed namespace, where argument-dependent lookup finds
-// this.
-template <class Row, class = decltype(std::declval<const Row&>().name)>
-std::ostream& operator<<(std::ostream& os, const Row& row) {
-  return os << row.name;
-}
-}  // namespace
 
 #endif

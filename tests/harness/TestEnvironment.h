@@ -5,6 +5,7 @@
 
 #include <vector>
 
+#include "AccountHandle.h"
 #include "OW_Array.hpp"
 #include "OW_CIMOMHandleIFC.hpp"
 #include "OW_Logger.hpp"
@@ -51,5 +52,17 @@ class TestEnvironment : public OpenWBEM::ProviderEnvironmentIFC {
 };
 
 using TestEnvRef = OpenWBEM::IntrusiveReference<TestEnvironment>;
+
+// The environment of the classes that read the appliance's accounts: its CIMOM serves
+// Zeph_Account from the appliance's account list, as the CIMOM on the appliance does.
+class AccountEnvironment : public TestEnvironment {
+ public:
+  OpenWBEM::CIMOMHandleIFCRef getCIMOMHandle() const override { return accounts_; }
+  OpenWBEM::CIMOMHandleIFCRef getRepositoryCIMOMHandle() const override { return accounts_; }
+  OpenWBEM::ProviderEnvironmentIFCRef clone() const override { return new AccountEnvironment; }
+
+ private:
+  OpenWBEM::CIMOMHandleIFCRef accounts_{new harness::AccountHandle("/var/lib/appliance/accounts")};
+};
 
 #endif

@@ -59,18 +59,6 @@ Lines arrays(const std::string& text) {
   return lines;
 }
 
-// The dial-out settings' environment on the appliance: its CIMOM serves Zeph_Account from the
-// appliance's account list.
-class AccountEnvironment : public TestEnvironment {
- public:
-  OpenWBEM::CIMOMHandleIFCRef getCIMOMHandle() const override { return accounts_; }
-  OpenWBEM::CIMOMHandleIFCRef getRepositoryCIMOMHandle() const override { return accounts_; }
-  OpenWBEM::ProviderEnvironmentIFCRef clone() const override { return new AccountEnvironment; }
-
- private:
-  OpenWBEM::CIMOMHandleIFCRef accounts_{new harness::AccountHandle("/var/lib/appliance/accounts")};
-};
-
 class RouteTest : public client::ClientTest {
  protected:
   TestEnvRef makeEnvironment() const override { return new AccountEnvironment; }
