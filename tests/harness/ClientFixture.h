@@ -6,6 +6,7 @@
 #define RAS_TESTS_CLIENTFIXTURE_H
 
 #include <algorithm>
+#include <functional>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -25,6 +26,7 @@
 #include "OW_ResultHandlers.hpp"
 #include "QvlStandIn.h"
 #include "TestEnvironment.h"
+#include "Zeph_DialService.h"
 #include "Zeph_ModuleGlobals.h"
 #include "Zeph_RASProvider.h"
 
@@ -101,6 +103,17 @@ class ClientTest : public ApplianceTest {
   // A fresh dispatcher initialised as a CIMOM does: every instance reads its files again.
   // Waits until the registry subscriptions have acted on every change so far, keeps what
   // initialising ran and empties the journal.
+  // The pristine appliance, changed by `prepare`, and a freshly initialised module; the module
+  // before stops following "ModemStatus" first, so that its callback does not act on the reset.
+  void restart(const std::function<void()>& prepare = [] {}) {
+    QvlNotifySync();
+    ras::stopModemStatusNotify();
+    appliance::reset();
+    resetSession();
+    prepare();
+    initialize();
+  }
+
   void initialize() {
     provider_ = new Zeph_RASProvider;
     env_ = makeEnvironment();
@@ -182,12 +195,6 @@ class ClientTest : public ApplianceTest {
     check_key.clear();
   }
 };
-
-// The lines of `head` followed by those of `tail`.
-inline Lines joined(Lines head, const Lines& tail) {
-  head.insert(head.end(), tail.begin(), tail.end());
-  return head;
-}
 
 // Rewrites `file` with every line for which `matches` holds replaced by `line`, or dropped
 // when `line` is empty.

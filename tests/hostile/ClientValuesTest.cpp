@@ -231,9 +231,7 @@ TEST_P(EachSetter, RunsItsPrescribedLineOrNothingAndItsValueStaysData) {
     const std::string value = setter.ordinary + suffix;
     const std::string label = std::string(setter.target ? setter.target->className : "ci") + "." +
                               setter.property + " = \"" + value + "\"";
-    appliance::reset();
-    resetSession();
-    initialize();
+    restart();
     get();  // the account list that the user-name setter indexes
     ASSERT_EQ(modify({{"DialOutUserName", text("0")}}), CimFailure{}) << label;
     get();

@@ -8,7 +8,6 @@
 
 #include "ClientFixture.h"
 #include "OW_CIMException.hpp"
-#include "Zeph_DialService.h"
 
 namespace {
 
@@ -51,33 +50,29 @@ class PPPTest : public client::ClientTest {
   // "in:FROM>TO", "out:FROM>TO" and "gate:FROM>TO" replace the line FROM of the dial-in or
   // dial-out options or of the dial-out start script by TO (or drop it); "in-up", "out-up" and
   // "out-idle" (dialled on demand, not yet connected) bring a link up; "modem=S" sets
-  // ModemStatus, "modem-" removes it. The module built before stops following "ModemStatus"
-  // first, so that the preparation does not reach it.
+  // ModemStatus, "modem-" removes it.
   void fresh(const std::string& steps) {
-    QvlNotifySync();
-    ras::stopModemStatusNotify();
-    appliance::reset();
-    resetSession();
-    std::istringstream in(steps);
-    for (std::string step; std::getline(in, step, ';');) {
-      const std::size_t colon = step.find(':'), arrow = step.find('>');
-      const bool out = step[0] != 'i';
-      if (colon != std::string::npos) {
-        const std::string file = step.substr(0, colon);
-        client::replaceLine(
-            file == "gate" ? "/qv/etc/ppp/ppp_add_v2k" : "/qv/etc/ppp/options_dial" + file,
-            step.substr(colon + 1, arrow - colon - 1), step.substr(arrow + 1));
-      } else if (step == "modem-") {
-        appliance::regDelete("ModemStatus");
-      } else if (step.rfind("modem=", 0) == 0) {
-        appliance::regSet("ModemStatus", step.substr(6));
-      } else {
-        appliance::linkUp(out ? appliance::Direction::DialOut : appliance::Direction::DialIn,
-                          out ? "ppp1" : "ppp0", out ? "10.0.0.1" : "192.168.200.1",
-                          out ? "10.0.0.2" : "192.168.200.2", step == "out-idle");
+    restart([&] {
+      std::istringstream in(steps);
+      for (std::string step; std::getline(in, step, ';');) {
+        const std::size_t colon = step.find(':'), arrow = step.find('>');
+        const bool out = step[0] != 'i';
+        if (colon != std::string::npos) {
+          const std::string file = step.substr(0, colon);
+          client::replaceLine(
+              file == "gate" ? "/qv/etc/ppp/ppp_add_v2k" : "/qv/etc/ppp/options_dial" + file,
+              step.substr(colon + 1, arrow - colon - 1), step.substr(arrow + 1));
+        } else if (step == "modem-") {
+          appliance::regDelete("ModemStatus");
+        } else if (step.rfind("modem=", 0) == 0) {
+          appliance::regSet("ModemStatus", step.substr(6));
+        } else {
+          appliance::linkUp(out ? appliance::Direction::DialOut : appliance::Direction::DialIn,
+                            out ? "ppp1" : "ppp0", out ? "10.0.0.1" : "192.168.200.1",
+                            out ? "10.0.0.2" : "192.168.200.2", step == "out-idle");
+        }
       }
-    }
-    initialize();
+    });
   }
   // The space-separated properties' values joined by "|"; "P@Q" stands for the values of
   // P's qualifiers Q, joined by "," ("none" when there is none).

@@ -64,15 +64,12 @@ class RouteTest : public client::ClientTest {
   TestEnvRef makeEnvironment() const override { return new AccountEnvironment; }
 
   // The pristine appliance with `routes` in the route file (none: no file), and a freshly
-  // built module; the one built before no longer follows "ModemStatus".
+  // built module.
   void fresh(const std::string& routes) {
-    QvlNotifySync();
-    ras::stopModemStatusNotify();
-    appliance::reset();
-    resetSession();
-    appliance::removeFile(kRouteFile);
-    if (!routes.empty()) appliance::writeFile(kRouteFile, routeText(routes));
-    initialize();
+    restart([&] {
+      appliance::removeFile(kRouteFile);
+      if (!routes.empty()) appliance::writeFile(kRouteFile, routeText(routes));
+    });
   }
 
   // Runs "create ADDRESS [MASK|- [METRIC|-]]", "mask ADDRESS MASK", "metric ADDRESS METRIC" or
