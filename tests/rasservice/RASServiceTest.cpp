@@ -45,9 +45,10 @@ class Service : public SettingsTest {
         if (line == kOpen || line == kClosed) gates.push_back(line);
     return gates;
   }
-  // The pristine appliance again once the callbacks of its registry rewrite are done, changed
-  // by `setUp`, with the journal and the log emptied.
+  // The pristine appliance again once the callbacks of earlier changes and of its registry
+  // rewrite are done, changed by `setUp`, with the journal and the log emptied.
   void pristine(const std::function<void()>& setUp = [] {}) {
+    QvlNotifySync();
     appliance::reset();
     QvlNotifySync();
     setUp();
